@@ -1,0 +1,14 @@
+# Finds the Qt major version that was asked for.
+
+if(TESSARK_QT_MAJOR EQUAL 6)
+    set(TESSARK_QT_MINIMUM 6.4)
+else()
+    set(TESSARK_QT_MINIMUM 5.15)
+endif()
+
+set(tessark_qt_components Core Gui Widgets)
+if(TESSARK_BUILD_TESTS)
+    list(APPEND tessark_qt_components Test)
+endif()
+find_package(Qt${TESSARK_QT_MAJOR} ${TESSARK_QT_MINIMUM} REQUIRED
+    COMPONENTS ${tessark_qt_components})

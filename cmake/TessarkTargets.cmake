@@ -1,0 +1,98 @@
+# Functions that every target of this project is made with.
+
+include(GNUInstallDirs)
+
+# Settings that all our code is compiled with: language, moc, visibility, warnings, sanitizers.
+function(tessark_common target)
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC ON
+        CXX_STANDARD 17
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON
+    )
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS
+        QT_NO_FOREACH
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+        QT_DISABLE_DEPRECATED_BEFORE=0x050F00
+    )
+    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        target_compile_options(${target} PRIVATE
+            -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+            -Woverloaded-virtual -Wold-style-cast
+            $<$<BOOL:${TESSARK_DEVELOPER}>:-Werror>
+        )
+    endif()
+    if(TESSARK_SANITIZE)
+        target_compile_options(${target} PRIVATE
+            -fsanitize=${TESSARK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=${TESSARK_SANITIZE})
+    endif()
+    if(TESSARK_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage -O0)
+        target_link_options(${target} PRIVATE --coverage)
+    endif()
+endfunction()
+
+# tessark_add_library(<Name> OUTPUT_NAME <file> FOLDER <folder> SOURCES ... [LINK ...])
+# A versioned shared library, Tessark::<Name>, whose public headers lie in <folder>. Headers that
+# end in _p.h are ours alone and are not installed.
+function(tessark_add_library name)
+    cmake_parse_arguments(arg "" "OUTPUT_NAME;FOLDER" "SOURCES;LINK" ${ARGN})
+    set(target Tessark${name})
+    add_library(${target} SHARED ${arg_SOURCES})
+    add_library(Tessark::${name} ALIAS ${target})
+    tessark_common(${target})
+    string(TOUPPER ${arg_OUTPUT_NAME} upper_name)
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${name}
+        OUTPUT_NAME ${arg_OUTPUT_NAME}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        DEFINE_SYMBOL TESSARK_BUILDING_${upper_name}
+        INSTALL_RPATH $ORIGIN
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib
+    )
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tessark>
+    )
+    target_link_libraries(${target} PUBLIC ${arg_LINK} Qt${TESSARK_QT_MAJOR}::Widgets)
+
+    install(TARGETS ${target} EXPORT TessarkTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    )
+    foreach(source IN LISTS arg_SOURCES)
+        if(source MATCHES "\\.h$" AND NOT source MATCHES "_p\\.h$")
+            get_filename_component(subfolder ${arg_FOLDER}/${source} DIRECTORY)
+            install(FILES ${source}
+                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tessark/${subfolder})
+            set_property(GLOBAL APPEND PROPERTY TESSARK_PUBLIC_HEADERS ${arg_FOLDER}/${source})
+        endif()
+    endforeach()
+endfunction()
+
+# tessark_add_test(<folder>/tst_<X> [LINK ...] [SOURCES ...])
+# One Qt Test program per file, run on the offscreen platform.
+function(tessark_add_test path)
+    cmake_parse_arguments(arg "" "" "LINK;SOURCES" ${ARGN})
+    get_filename_component(name ${path} NAME)
+    add_executable(${name} ${path}.cpp ${arg_SOURCES})
+    tessark_common(${name})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE
+        ${arg_LINK} Tessark::Property Qt${TESSARK_QT_MAJOR}::Test)
+    add_test(NAME ${path} COMMAND ${name})
+    set_tests_properties(${path} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+        TIMEOUT 300
+    )
+endfunction()

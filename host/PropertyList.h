@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/PropertyHostExport.h"
+
+#include <property/Property.h>
+
+#include <QString>
+#include <QVector>
+
+#include <memory>
+#include <vector>
+
+namespace Tessark::PropertyHost {
+
+/**
+ * Owns the properties of one panel, in order, and the panel's title.
+ *
+ * It must outlive every panel made from properties().
+ */
+class TESSARK_PROPERTYHOST_EXPORT PropertyList
+{
+public:
+    PropertyList();
+    PropertyList(PropertyList &&other) noexcept;
+    PropertyList &operator=(PropertyList &&other) noexcept;
+    ~PropertyList();
+
+    QString title() const;
+    void setTitle(const QString &title);
+
+    /// Appends a property and returns it, so that setters can be chained; the list owns it.
+    PropertyUI::Property &append(PropertyUI::Property property);
+
+    /// The properties in order, as PropertyUI::PropertyEditorPanel takes them.
+    QVector<PropertyUI::Property *> properties() const;
+
+private:
+    QString m_title;
+    std::vector<std::unique_ptr<PropertyUI::Property>> m_properties;
+};
+
+} // namespace Tessark::PropertyHost

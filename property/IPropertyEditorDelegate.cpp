@@ -1,0 +1,7 @@
+#include "property/IPropertyEditorDelegate.h"
+
+namespace Tessark::PropertyUI {
+
+IPropertyEditorDelegate::~IPropertyEditorDelegate() = default;
+
+} // namespace Tessark::PropertyUI

@@ -1,0 +1,88 @@
+#include "property/PropertyEditor.h"
+
+#include <QAbstractSpinBox>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QSlider>
+
+namespace Tessark::PropertyUI {
+
+namespace {
+
+bool isConfirmation(const QEvent *event)
+{
+    const int key = static_cast<const QKeyEvent *>(event)->key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+PropertyEditor::PropertyEditor(Property *property)
+    : m_property(property)
+{
+}
+
+PropertyEditor::~PropertyEditor() = default;
+
+void PropertyEditor::setValues(const QVector<QVariant> &values)
+{
+    if (!values.isEmpty())
+        setValue(values.first());
+}
+
+QWidget *PropertyEditor::widget(PropertyEditorContext *)
+{
+    return nullptr;
+}
+
+void PropertyEditor::propertyChanged() {}
+
+QVariant PropertyEditor::hint(const QString &key)
+{
+    return m_property->hint(key);
+}
+
+bool PropertyEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    // Sliders keep the wheel, every other control lets it scroll the view: an ignored event goes on
+    // to the parent widgets. The asymmetry is deliberate.
+    if (event->type() == QEvent::Wheel && !qobject_cast<QSlider *>(watched)) {
+        event->ignore();
+        return true;
+    }
+    if (!qobject_cast<QAbstractSpinBox *>(watched))
+        return false;
+
+    const QPointer<PropertyEditor> self(this);
+    const QPointer<QObject> watchedAlive(watched);
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        Q_EMIT startInteractiveChange();
+        break;
+    case QEvent::FocusOut:
+        Q_EMIT endInteractiveChange();
+        break;
+    case QEvent::KeyRelease:
+        if (isConfirmation(event)) {
+            Q_EMIT endInteractiveChange();
+            // The box still has the focus, so the next run begins at once.
+            if (self)
+                Q_EMIT startInteractiveChange();
+        }
+        break;
+    default:
+        break;
+    }
+    // An event must not travel on to a box that a slot has deleted.
+    return watchedAlive.isNull();
+}
+
+void PropertyEditor::revertToDefaultValue()
+{
+    if (m_property->defaultValue.isNull())
+        return;
+    setValue(m_property->defaultValue);
+    Q_EMIT valueChanged();
+}
+
+} // namespace Tessark::PropertyUI

@@ -1,0 +1,269 @@
+#include "property/PropertyEditorPanel.h"
+
+#include "property/Property.h"
+#include "property/PropertyEditor.h"
+#include "property/PropertyEditorRegistry.h"
+#include "property/PropertyLayout.h"
+
+#include <QContextMenuEvent>
+#include <QCursor>
+#include <QFont>
+#include <QMenu>
+#include <QStack>
+#include <QTabWidget>
+
+#include <tuple>
+#include <utility>
+
+namespace Tessark::PropertyUI {
+
+namespace {
+
+constexpr int kRowSpacing = 4;
+
+// One flag for all panels on purpose: while a host describes a property anew, no editor of any
+// panel writes to a delegate.
+bool s_updatingProperty = false;
+
+void applyWidgetHints(PropertyEditor &editor, QWidget &widget)
+{
+    const QVariant size = editor.hint(kPropertyHintSize);
+    if (!size.isNull())
+        widget.setFixedSize(size.toSize()); // an unconvertible one is passed on as (-1, -1)
+    const QVariant font = editor.hint(kPropertyHintFont);
+    if (!font.isNull())
+        widget.setFont(font.value<QFont>());
+    const QVariant styleSheet = editor.hint(kPropertyHintStyleSheet);
+    if (!styleSheet.isNull())
+        widget.setStyleSheet(styleSheet.toString());
+}
+
+QString rowLabel(const Property &property)
+{
+    return property.label.isEmpty() ? QString() : property.label + QLatin1Char(':');
+}
+
+} // namespace
+
+/// Turns the list into editors and rows while the panel is constructed.
+class PropertyEditorPanel::Builder
+{
+public:
+    Builder(PropertyEditorPanel *panel, PropertyEditorContext *context)
+        : m_panel(panel)
+        , m_context(context)
+    {
+    }
+
+    void add(Property *property)
+    {
+        const auto factory = PropertyEditorRegistry::Instance()->factory(property);
+        if (!factory)
+            return;
+        PropertyEditor *editor = factory(property);
+        if (editor) {
+            editor->setParent(m_panel);
+            QWidget *widget = editor->widget(m_context);
+            if (widget)
+                addRow(*editor, *property, widget);
+            followTabs(*property, widget);
+            connectToPanel(editor);
+        }
+        m_panel->m_editors.append(editor);
+    }
+
+private:
+    void addRow(PropertyEditor &editor, const Property &property, QWidget *widget)
+    {
+        applyWidgetHints(editor, *widget);
+        if (editor.hint(kPropertyHintFullWidth).toBool())
+            m_panel->m_layout->addRow(widget);
+        else
+            m_panel->m_layout->addRow(rowLabel(property), widget);
+    }
+
+    /// Switches to the page that the following rows go to. Groups need nothing here: their markers
+    /// are rows that the layout knows by dynamic properties.
+    void followTabs(const Property &property, QWidget *widget)
+    {
+        if (property.type == kPropertyTypeBeginTabGroup)
+            beginTabGroup(widget);
+        else if (property.type == kPropertyTypeEndTabGroup)
+            endTabGroup();
+        else if (property.type == kPropertyTypeTab)
+            addTab(property.label, widget);
+    }
+
+    void beginTabGroup(QWidget *widget)
+    {
+        m_outer.push({m_tabWidget, m_panel->m_layout});
+        m_tabWidget = qobject_cast<QTabWidget *>(widget);
+    }
+
+    void endTabGroup()
+    {
+        if (m_outer.isEmpty()) {
+            qWarning("Bad tab property nesting: End group with no Begin.");
+            return;
+        }
+        std::tie(m_tabWidget, m_panel->m_layout) = m_outer.pop();
+    }
+
+    void addTab(const QString &label, QWidget *page)
+    {
+        if (!m_tabWidget) {
+            qWarning("Tab property created outside a tab group");
+            return;
+        }
+        if (!page)
+            return;
+        m_tabWidget->addTab(page, label);
+        m_panel->m_layout = new PropertyLayout(kRowSpacing);
+        page->setLayout(m_panel->m_layout);
+    }
+
+    void connectToPanel(PropertyEditor *editor)
+    {
+        connect(editor, &PropertyEditor::valueChanged, m_panel,
+                &PropertyEditorPanel::editorValueChanged);
+        connect(editor, &PropertyEditor::startInteractiveChange, m_panel,
+                &PropertyEditorPanel::startInteractiveChange);
+        connect(editor, &PropertyEditor::endInteractiveChange, m_panel,
+                &PropertyEditorPanel::endInteractiveChange);
+    }
+
+    PropertyEditorPanel *m_panel;
+    PropertyEditorContext *m_context;
+    QTabWidget *m_tabWidget = nullptr;
+    QStack<std::pair<QTabWidget *, PropertyLayout *>> m_outer; // of the enclosing tab groups
+};
+
+PropertyEditorPanel::PropertyEditorPanel(QVector<Property *> properties,
+                                         IPropertyEditorDelegate *delegate,
+                                         PropertyEditorContext *context)
+    : m_properties(std::move(properties))
+    , m_delegate(delegate)
+{
+    InitialiseRegistry();
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    m_layout = new PropertyLayout(kRowSpacing);
+    setLayout(m_layout);
+
+    // A tab group left open at the end of the list is not repaired: m_layout stays that of its last
+    // page, on purpose.
+    Builder builder(this, context);
+    for (Property *property : std::as_const(m_properties))
+        builder.add(property);
+}
+
+PropertyEditorPanel::~PropertyEditorPanel() = default;
+
+void PropertyEditorPanel::setValue(Property *property, const QVariant &value,
+                                   IPropertyEditorDelegate::ChangeFlags flags)
+{
+    if (!s_updatingProperty && m_delegate)
+        m_delegate->setValue(property, value, flags);
+}
+
+QVariant PropertyEditorPanel::value(Property *property) const
+{
+    return m_delegate ? m_delegate->value(property) : QVariant();
+}
+
+void PropertyEditorPanel::updateProperty(Property *property)
+{
+    // A nested call clears the flag when it ends, as the inner of two scopes that share one flag.
+    s_updatingProperty = true;
+    const QPointer<PropertyEditorPanel> self(this);
+    for (int i = 0; self && i < m_editors.size(); ++i) {
+        PropertyEditor *editor = m_editors.at(i);
+        if (editor && editor->editedProperty() == property)
+            editor->propertyChanged();
+    }
+    s_updatingProperty = false;
+}
+
+void PropertyEditorPanel::getEditors(QVector<PropertyEditor *> &editors, const QString &type) const
+{
+    for (PropertyEditor *editor : m_editors) {
+        if (type.isEmpty() || (editor && editor->editedProperty()->type == type))
+            editors.append(editor);
+    }
+}
+
+void PropertyEditorPanel::updateUI()
+{
+    if (!m_delegate)
+        return;
+    const QPointer<PropertyEditorPanel> self(this);
+    for (int i = 0; self && i < m_editors.size(); ++i) {
+        const QPointer<PropertyEditor> editor = m_editors.at(i);
+        if (!editor)
+            continue;
+        const QVariant current = value(editor->editedProperty());
+        if (editor)
+            editor->setValue(current);
+    }
+}
+
+void PropertyEditorPanel::contextMenuEvent(QContextMenuEvent *event)
+{
+    PropertyEditor *editor = editorAt(event->pos());
+    if (!editor || editor->editedProperty()->defaultValue.isNull())
+        return;
+    QMenu menu;
+    menu.addAction(tr("Set to Default"), editor, &PropertyEditor::revertToDefaultValue);
+    menu.exec(QCursor::pos());
+}
+
+/// The first editor whose widget covers position. Geometries are compared unmapped, so only rows of
+/// the panel's own layout are told apart by it; that is accepted.
+PropertyEditor *PropertyEditorPanel::editorAt(const QPoint &position) const
+{
+    for (PropertyEditor *editor : m_editors) {
+        const QWidget *widget = editor ? editor->widget(nullptr) : nullptr;
+        if (widget && widget->isVisibleTo(this) && widget->geometry().contains(position))
+            return editor;
+    }
+    return nullptr;
+}
+
+void PropertyEditorPanel::editorValueChanged()
+{
+    auto *const editor = qobject_cast<PropertyEditor *>(sender());
+    if (!editor)
+        return;
+    const QPointer<PropertyEditorPanel> self(this);
+    const QPointer<PropertyEditor> editorAlive(editor);
+    Property *const property = editor->editedProperty();
+    const bool continued = m_interactiveEditor == editor && m_interactiveChangeSeen;
+
+    setValue(property, editor->value(),
+             continued ? IPropertyEditorDelegate::ContinuedChange
+                       : IPropertyEditorDelegate::NewChange);
+    if (!self)
+        return;
+
+    m_interactiveChangeSeen = editorAlive && m_interactiveEditor == editorAlive;
+    if (!m_interactiveChangeSeen)
+        m_interactiveEditor = nullptr; // an edit elsewhere ends the running change
+    if (editorAlive && m_layout && property->type == kPropertyTypeBeginGroup)
+        m_layout->setGroupVisible(editor->widget(nullptr), editor->value().toBool());
+}
+
+void PropertyEditorPanel::startInteractiveChange()
+{
+    if (auto *editor = qobject_cast<PropertyEditor *>(sender())) {
+        m_interactiveEditor = editor;
+        m_interactiveChangeSeen = false;
+    }
+}
+
+void PropertyEditorPanel::endInteractiveChange()
+{
+    m_interactiveEditor = nullptr;
+    m_interactiveChangeSeen = false;
+}
+
+} // namespace Tessark::PropertyUI

@@ -1,0 +1,421 @@
+#include "property/PropertyLayout.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QVariant>
+#include <QWidget>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace Tessark::PropertyUI {
+
+namespace {
+
+constexpr int kContentsMargin = 4;
+constexpr int kGroupIndent = 16;
+constexpr int kUnboundedRowHeight = 10000;
+constexpr QRect kMeasuringRect(0, 0, 100, 100);
+
+/// Sums of sizes are made in 64 bits, so that very many very large items cannot overflow.
+int saturated(qint64 value)
+{
+    return static_cast<int>(std::clamp<qint64>(value, std::numeric_limits<int>::min(),
+                                               std::numeric_limits<int>::max()));
+}
+
+/// The minimum wins over the maximum.
+int bounded(int minimum, int value, int maximum)
+{
+    return std::max(std::min(value, maximum), minimum);
+}
+
+int groupIndent(qint64 depth)
+{
+    // The top group level is not indented, each deeper one adds a step.
+    return saturated(std::max<qint64>(kGroupIndent * (depth - 1), 0));
+}
+
+/// One of count equal shares; all of it where more items ask than were counted.
+qint64 equalShare(qint64 spare, int count)
+{
+    return count > 0 ? spare / count : spare;
+}
+
+} // namespace
+
+struct PropertyLayout::Measure
+{
+    int labelWidth = 0;
+    qint64 fieldWidth = 0;
+    qint64 fixedHeight = 0;
+    int expandingRows = 0;
+    qint64 spareHeight = 0;
+};
+
+struct PropertyLayout::Row
+{
+    std::size_t first = 0;
+    std::size_t last = 0;
+    qint64 fixedWidth = 0; // width already spoken for
+    int expandCount = 0;   // items that still share the spare width
+    int height = 0;
+    int heightFloor = 0;
+    int heightCap = kUnboundedRowHeight;
+    bool expandsVertically = false;
+};
+
+bool PropertyLayout::Entry::expandsHorizontally() const
+{
+    if (options & ExpandHorizontal)
+        return true;
+    const QWidget *widget = item->widget();
+    return widget && widget->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
+}
+
+bool PropertyLayout::Entry::expandsVertically() const
+{
+    if (options & ExpandVertical)
+        return true;
+    const QWidget *widget = item->widget();
+    return widget && widget->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
+}
+
+PropertyLayout::PropertyLayout(QWidget *parent, int margin, int spacing)
+    : QLayout(parent)
+{
+    QLayout::setContentsMargins(margin, margin, margin, margin);
+    initialise(spacing);
+}
+
+PropertyLayout::PropertyLayout(int spacing)
+{
+    QLayout::setContentsMargins(0, 0, 0, 0);
+    initialise(spacing);
+}
+
+void PropertyLayout::initialise(int spacing)
+{
+    QLayout::setSpacing(spacing);
+    m_verticalSpacing = spacing;
+    m_horizontalSpacing = spacing;
+    // These win over the constructor's margin on purpose.
+    QLayout::setContentsMargins(kContentsMargin, kContentsMargin, kContentsMargin,
+                                kContentsMargin);
+}
+
+PropertyLayout::~PropertyLayout()
+{
+    // The items go in order and out of the layout first, as by taking each, but in linear time.
+    const std::vector<Entry> items = std::exchange(m_items, {});
+    for (const Entry &entry : items)
+        delete entry.item;
+}
+
+void PropertyLayout::addItem(QLayoutItem *item)
+{
+    addItem(item, LayoutOptions(), Qt::AlignCenter);
+}
+
+Qt::Orientations PropertyLayout::expandingDirections() const
+{
+    return {};
+}
+
+QSize PropertyLayout::minimumSize() const
+{
+    if (!m_cachedMinimumSize.isValid())
+        m_cachedMinimumSize = doLayout(kMeasuringRect, true, SizeType::Minimum);
+    return m_cachedMinimumSize;
+}
+
+void PropertyLayout::setGeometry(const QRect &rect)
+{
+    QLayout::setGeometry(rect);
+    doLayout(rect, false, SizeType::Preferred);
+}
+
+QLayoutItem *PropertyLayout::itemAt(int index) const
+{
+    if (index < 0 || index >= count())
+        return nullptr;
+    return m_items[static_cast<std::size_t>(index)].item;
+}
+
+QLayoutItem *PropertyLayout::takeAt(int index)
+{
+    // The size caches stay as they are: the panel adds all rows before it asks for sizes.
+    QLayoutItem *item = itemAt(index);
+    if (item)
+        m_items.erase(m_items.begin() + index);
+    return item;
+}
+
+int PropertyLayout::count() const
+{
+    return static_cast<int>(m_items.size());
+}
+
+QSize PropertyLayout::sizeHint() const
+{
+    if (!m_cachedSizeHint.isValid())
+        m_cachedSizeHint = doLayout(kMeasuringRect, true, SizeType::Preferred);
+    return m_cachedSizeHint;
+}
+
+void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Alignment alignment)
+{
+    // In this order on purpose: a full-width row keeps ExpandHorizontal, a label does not.
+    if (options & NewRow)
+        options &= ~LayoutOptions(ExpandHorizontal);
+    if (options & FullWidth)
+        options |= NewRow;
+    if (const QWidget *widget = item->widget()) {
+        if (widget->property("beginGroup").toBool())
+            options |= BeginGroup;
+        else if (widget->property("endGroup").toBool())
+            options |= EndGroup;
+    }
+    m_items.push_back({item, options, -1, -1, alignment});
+    m_cachedSizeHint = QSize();
+    m_cachedMinimumSize = QSize();
+    invalidate();
+}
+
+void PropertyLayout::addWidget(QWidget *widget, LayoutOptions options)
+{
+    addChildItem(widget, options);
+}
+
+void PropertyLayout::addLayout(QLayout *layout, LayoutOptions options)
+{
+    addChildLayout(layout);
+    addItem(layout, options, Qt::AlignCenter);
+}
+
+void PropertyLayout::addRow(const QString &label, QWidget *field)
+{
+    addChildItem(new QLabel(label), NewRow);
+    addChildItem(field, ExpandHorizontal);
+}
+
+void PropertyLayout::addRow(QWidget *widget)
+{
+    addChildItem(widget, FullWidth | ExpandHorizontal);
+}
+
+void PropertyLayout::addChildItem(QWidget *widget, LayoutOptions options)
+{
+    addChildWidget(widget);
+    addItem(new QWidgetItem(widget), options, Qt::AlignCenter);
+}
+
+void PropertyLayout::setVerticalSpacing(int spacing)
+{
+    m_verticalSpacing = spacing;
+}
+
+void PropertyLayout::setHorizontalSpacing(int spacing)
+{
+    m_horizontalSpacing = spacing;
+}
+
+void PropertyLayout::setGroupVisible(QWidget *groupWidget, bool visible)
+{
+    const auto begin = std::find_if(m_items.begin(), m_items.end(), [groupWidget](const Entry &e) {
+        return groupWidget && e.item->widget() == groupWidget;
+    });
+    if (begin == m_items.end())
+        return;
+    begin->options.setFlag(GroupCollapsed, !visible);
+
+    // Showing a widget runs code of the host, which may add or take rows or delete the layout.
+    const QPointer<PropertyLayout> self(this);
+    const auto firstInside = static_cast<std::size_t>(begin - m_items.begin()) + 1;
+    setEnabled(false);
+    int level = 1;
+    for (std::size_t i = firstInside; self && i < m_items.size(); ++i) {
+        if (m_items[i].options & BeginGroup)
+            ++level;
+        else if ((m_items[i].options & EndGroup) && --level == 0)
+            break;
+        if (QWidget *widget = m_items[i].item->widget())
+            widget->setVisible(visible);
+    }
+    if (!self)
+        return;
+    setEnabled(true);
+    invalidate();
+}
+
+QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
+{
+    const QMargins margins = contentsMargins();
+    Measure total = measure();
+    if (!testOnly) {
+        total.fieldWidth = qint64(rect.width()) - total.labelWidth - margins.left()
+                           - margins.right() - m_labelSpacing;
+    }
+    total.spareHeight = qint64(rect.height()) - total.fixedHeight - margins.top()
+                        - margins.bottom() - m_verticalSpacing;
+
+    qint64 y = margins.top(); // not the rectangle's own top: see the class comment
+    qint64 depth = 0;
+    Row row;
+    for (std::size_t i = 0; i < m_items.size(); ++i) {
+        const LayoutOptions options = m_items[i].options;
+        if (options & BeginGroup)
+            ++depth;
+        else if (options & EndGroup)
+            --depth;
+        if (m_items[i].item->isEmpty())
+            continue;
+        beginRowAt(i, total.labelWidth, row);
+        if (!endsRow(i))
+            continue;
+        const qint64 left = qint64(margins.left()) + groupIndent(depth);
+        sizeRow(row, qint64(rect.width()) - left - margins.right(), total);
+        if (!testOnly)
+            placeRow(row, left, y, total.labelWidth);
+        y += qint64(row.height) + m_verticalSpacing;
+    }
+    return {saturated(total.fieldWidth + total.labelWidth + margins.left() + m_labelSpacing
+                      + margins.right()),
+            saturated(y - m_verticalSpacing + margins.bottom())};
+}
+
+bool PropertyLayout::endsRow(std::size_t index) const
+{
+    // A hidden entry that starts a row ends the one before it all the same.
+    return index + 1 >= m_items.size() || (m_items[index + 1].options & NewRow);
+}
+
+/// Notes every visible item's size hint and sums up columns and rows. Widths of full-width items
+/// and the spacing between items are left out of the column widths on purpose.
+PropertyLayout::Measure PropertyLayout::measure() const
+{
+    Measure result;
+    qint64 rowWidth = 0;
+    int rowHeight = 0;
+    bool rowExpands = false;
+    for (std::size_t i = 0; i < m_items.size(); ++i) {
+        Entry &entry = m_items[i];
+        if (entry.item->isEmpty())
+            continue;
+        const QSize size = entry.item->sizeHint();
+        entry.width = size.width();
+        entry.height = size.height();
+        if (entry.options & NewRow) {
+            if (entry.isLabel())
+                result.labelWidth = std::max(result.labelWidth, size.width());
+            result.fieldWidth = std::max(result.fieldWidth, rowWidth);
+            rowWidth = 0;
+            rowExpands = false;
+            rowHeight = size.height();
+        } else {
+            rowWidth += size.width();
+            rowHeight = std::max(rowHeight, size.height());
+        }
+        rowExpands = rowExpands || entry.expandsVertically();
+        if (!endsRow(i))
+            continue;
+        if (rowExpands)
+            ++result.expandingRows;
+        else
+            result.fixedHeight += qint64(rowHeight) + m_verticalSpacing;
+    }
+    result.fieldWidth = std::max(result.fieldWidth, rowWidth);
+    return result;
+}
+
+/// Counts the visible entry at index into row, which starts afresh at a NewRow entry.
+void PropertyLayout::beginRowAt(std::size_t index, int labelWidth, Row &row) const
+{
+    const Entry &entry = m_items[index];
+    if (entry.options & NewRow) {
+        row.first = index;
+        row.fixedWidth = 0;
+        row.expandCount = 0;
+    }
+    row.last = index;
+    if (entry.isLabel())
+        row.fixedWidth = qint64(m_labelSpacing) + labelWidth;
+    else if (entry.expandsHorizontally())
+        ++row.expandCount;
+    else
+        row.fixedWidth += qint64(entry.width) + m_horizontalSpacing;
+}
+
+/// Gives the items of row their widths and row its height. rowSpace is the width inside margins and
+/// indentation; measure holds the rows that still expand and the height they share.
+void PropertyLayout::sizeRow(Row &row, qint64 rowSpace, Measure &measure) const
+{
+    qint64 spareWidth = rowSpace - row.fixedWidth;
+    row.height = 0;
+    row.heightCap = kUnboundedRowHeight;
+    row.heightFloor = 0;
+    row.expandsVertically = false;
+    for (std::size_t i = row.first; i <= row.last; ++i) {
+        if (m_items[i].item->isEmpty())
+            continue;
+        sizeWidth(m_items[i], row, spareWidth);
+        sizeHeight(m_items[i], row);
+    }
+    if (!row.expandsVertically)
+        return;
+    const int share = saturated(equalShare(measure.spareHeight, measure.expandingRows));
+    row.height = std::min(std::max(share, row.heightFloor), row.heightCap);
+    --measure.expandingRows;
+    measure.spareHeight -= row.height;
+}
+
+void PropertyLayout::sizeWidth(Entry &entry, Row &row, qint64 &spareWidth) const
+{
+    const bool takesShare = !entry.isLabel() && entry.expandsHorizontally();
+    if (takesShare) {
+        entry.width = saturated(equalShare(spareWidth, row.expandCount));
+        --row.expandCount;
+    }
+    entry.width = bounded(entry.item->minimumSize().width(), entry.width,
+                              entry.item->maximumSize().width());
+    if (takesShare)
+        spareWidth -= qint64(entry.width) + m_horizontalSpacing;
+}
+
+void PropertyLayout::sizeHeight(const Entry &entry, Row &row) const
+{
+    const int minimum = entry.item->minimumSize().height();
+    const int maximum = entry.item->maximumSize().height();
+    const int height = bounded(minimum, entry.height, maximum);
+    row.height = std::max(row.height, height);
+    if (entry.expandsVertically()) {
+        row.heightCap = std::min(row.heightCap, maximum);
+        row.heightFloor = std::max(row.heightFloor, minimum);
+        row.expandsVertically = true;
+    } else {
+        row.heightFloor = std::max(row.heightFloor, height);
+    }
+}
+
+void PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const
+{
+    qint64 x = left;
+    for (std::size_t i = row.first; i <= row.last; ++i) {
+        const Entry &entry = m_items[i];
+        const bool isRowLabel = i == row.first && !(entry.options & FullWidth);
+        if (isRowLabel)
+            x += labelWidth - entry.width;
+        // A fixed item keeps its size-hint height even where its maximum made the row lower.
+        const bool fillsRow = entry.expandsVertically();
+        const int height = fillsRow ? row.height : entry.height;
+        const qint64 y = fillsRow ? top : top + (row.height - height) / 2;
+        entry.item->setGeometry(QRect(saturated(x), saturated(y), entry.width, height));
+        if (isRowLabel)
+            x = left + labelWidth + m_labelSpacing;
+        else // hidden entries too: they take the place of their last width
+            x += qint64(entry.width) + m_horizontalSpacing;
+    }
+}
+
+} // namespace Tessark::PropertyUI

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QFileDialog>
+
+namespace Tessark::PropertyUI {
+
+/// The file mode that picks a directory and lists nothing else. Qt 6 dropped the enumerator; the
+/// kit's file-name field shows directories only for its successor too.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+inline constexpr QFileDialog::FileMode kDirectoryOnlyMode = QFileDialog::DirectoryOnly;
+#else
+inline constexpr QFileDialog::FileMode kDirectoryOnlyMode = QFileDialog::Directory;
+#endif
+
+} // namespace Tessark::PropertyUI

@@ -1,0 +1,63 @@
+#include "property/editors/TextPropertyEditor.h"
+
+#include "property/EditorHelpers_p.h"
+
+#include <QFont>
+#include <QPlainTextEdit>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace Tessark::PropertyUI {
+
+namespace {
+
+constexpr int kMinimumHeight = 400; // pixels
+constexpr int kPointSize = 16;
+
+} // namespace
+
+PropertyEditor *TextPropertyEditor::Factory(Property *property)
+{
+    return new TextPropertyEditor(property);
+}
+
+TextPropertyEditor::TextPropertyEditor(Property *property)
+    : PropertyEditor(property)
+{
+}
+
+TextPropertyEditor::~TextPropertyEditor() = default;
+
+void TextPropertyEditor::setValue(const QVariant &value)
+{
+    if (m_textEdit)
+        setQuietly(m_textEdit, &QPlainTextEdit::setPlainText, value.toString());
+}
+
+QVariant TextPropertyEditor::value() const
+{
+    return m_textEdit ? m_textEdit->document()->toPlainText() : QString();
+}
+
+QWidget *TextPropertyEditor::widget(PropertyEditorContext *)
+{
+    if (!m_widget) {
+        // No signal is connected, on purpose: see the class comment.
+        m_textEdit = new QPlainTextEdit;
+        m_widget = m_textEdit;
+        m_textEdit->setMinimumHeight(kMinimumHeight);
+        QFont font(QStringLiteral("monospace"), kPointSize);
+        font.setFixedPitch(true);
+
+        QTextCursor cursor = m_textEdit->textCursor();
+        cursor.select(QTextCursor::Document);
+        m_textEdit->setTextCursor(cursor);
+        cursor.clearSelection();
+        m_textEdit->setTextCursor(cursor);
+        m_textEdit->document()->setDefaultFont(font);
+        m_textEdit->setFont(font);
+    }
+    return m_widget;
+}
+
+} // namespace Tessark::PropertyUI

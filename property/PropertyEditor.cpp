@@ -57,21 +57,17 @@ bool PropertyEditor::eventFilter(QObject *watched, QEvent *event)
     const QPointer<QObject> watchedAlive(watched);
     switch (event->type()) {
     case QEvent::FocusIn:
-        Q_EMIT
-        startInteractiveChange();
+        Q_EMIT startInteractiveChange();
         break;
     case QEvent::FocusOut:
-        Q_EMIT
-        endInteractiveChange();
+        Q_EMIT endInteractiveChange();
         break;
     case QEvent::KeyRelease:
         if (isConfirmation(event)) {
-            Q_EMIT
-            endInteractiveChange();
+            Q_EMIT endInteractiveChange();
             // The box still has the focus, so the next run begins at once.
             if (self)
-                Q_EMIT
-            startInteractiveChange();
+                Q_EMIT startInteractiveChange();
         }
         break;
     default:
@@ -86,8 +82,7 @@ void PropertyEditor::revertToDefaultValue()
     if (m_property->defaultValue.isNull())
         return;
     setValue(m_property->defaultValue);
-    Q_EMIT
-    valueChanged();
+    Q_EMIT valueChanged();
 }
 
 } // namespace Tessark::PropertyUI

@@ -174,6 +174,8 @@ private Q_SLOTS:
     void getEditorsAppends();
     void deletedEditorBecomesANullEntry();
     void panelOwnsEditorsAndWidgets();
+    void deletionDropsThePendingEdit_data();
+    void deletionDropsThePendingEdit();
 
 private:
     PropertyEditorPanel &build(); // from m_set
@@ -911,6 +913,39 @@ void tst_PropertyEditorPanel::panelOwnsEditorsAndWidgets()
     QVERIFY(!editorA && !editorB && !frameA && !frameB);
     QCOMPARE(m_delegate.log(), QStringList());
     QCOMPARE(m_set.list().first()->name, QStringLiteral("a"));
+}
+
+void tst_PropertyEditorPanel::deletionDropsThePendingEdit_data()
+{
+    QTest::addColumn<QString>("list");
+
+    QTest::newRow("top level") << QStringLiteral("text");
+    QTest::newRow("on a page") << QStringLiteral("[ |One text ]");
+    QTest::newRow("on an inner page") << QStringLiteral("[ |One [ |In text ] ]");
+}
+
+// Closing the window takes the focus from the field, which finishes the edit in it. By then the
+// panel is half gone and must not be told any more.
+void tst_PropertyEditorPanel::deletionDropsThePendingEdit()
+{
+    QFETCH(QString, list);
+    addFromText(m_set, list);
+    for (Property *property : m_set.list()) {
+        if (property->type == kTest)
+            property->type = kPropertyTypeString;
+    }
+    build().show();
+    m_panel->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
+    auto *const field = m_panel->findChild<QLineEdit *>();
+    field->setFocus();
+    QTRY_VERIFY(field->hasFocus());
+    QTest::keyClicks(field, QStringLiteral("abc"));
+    m_delegate.changes.clear();
+
+    m_panel.reset();
+
+    QCOMPARE(m_delegate.log(), QStringList());
 }
 
 QTEST_MAIN(tst_PropertyEditorPanel)

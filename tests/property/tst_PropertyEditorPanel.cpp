@@ -1,5 +1,6 @@
 #include <property/PropertyLayout.h>
 #include <property/PropertyUI.h>
+#include <property/editors/TabPropertyEditor.h>
 
 #include "support/MessageRecorder.h"
 #include "support/PropertySet.h"
@@ -58,6 +59,13 @@ public:
         return key == kPropertyHintFullWidth ? QVariant(true) : QVariant();
     }
 };
+
+/// Makes a tab widget of the property "outer" and a frame of any other.
+PropertyEditor *outerTabsOnly(Property *property)
+{
+    return property->name == QLatin1String("outer") ? TabPropertyEditor::Factory(property)
+                                                    : TestEditor::Factory(property);
+}
 
 QString outline(const QLayout *layout);
 
@@ -162,6 +170,7 @@ private Q_SLOTS:
     void pageLayoutIsLikeThePanels();
     void tabGroupWithoutTabWidget_data();
     void tabGroupWithoutTabWidget();
+    void innerTabGroupWithoutTabWidget();
     void nullTabEditorIsNoPage();
     void tabWithoutWidgetIsNoPage();
     void endOfTabGroupWithWidgetIsARow();
@@ -745,6 +754,20 @@ void tst_PropertyEditorPanel::tabGroupWithoutTabWidget()
 
     QCOMPARE(rows(), expected);
     QCOMPARE(recorder.warnings(), warnings);
+}
+
+// Its tabs do not go to the group around it, which takes the next ones again after its end.
+void tst_PropertyEditorPanel::innerTabGroupWithoutTabWidget()
+{
+    const ScopedFactory replaced(kPropertyTypeBeginTabGroup, outerTabsOnly);
+    m_set.add(QStringLiteral("outer"), kPropertyTypeBeginTabGroup);
+    addFromText(m_set, QStringLiteral("|One [ |Lost a ] |Two b ]"));
+
+    const MessageRecorder recorder;
+    build();
+
+    QCOMPARE(rows(), QStringLiteral("tabs[One: \"[:\" [ QWidget a; Two: b]"));
+    QCOMPARE(recorder.warnings(), QStringList(kTabOutside));
 }
 
 void tst_PropertyEditorPanel::nullTabEditorIsNoPage()

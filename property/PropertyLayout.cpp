@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 namespace Tessark::PropertyUI {
 
@@ -106,10 +105,9 @@ void PropertyLayout::initialise(int spacing)
 
 PropertyLayout::~PropertyLayout()
 {
-    // The items go in order and out of the layout first, as by taking each, but in linear time.
-    const std::vector<Entry> items = std::exchange(m_items, {});
-    for (const Entry &entry : items)
-        delete entry.item;
+    // One by one, so that an item whose deletion deletes another finds that one still listed.
+    while (const QLayoutItem *item = PropertyLayout::takeAt(0))
+        delete item;
 }
 
 void PropertyLayout::addItem(QLayoutItem *item)
@@ -146,8 +144,12 @@ QLayoutItem *PropertyLayout::takeAt(int index)
 {
     // The size caches stay as they are: the panel adds all rows before it asks for sizes.
     QLayoutItem *item = itemAt(index);
-    if (item)
-        m_items.erase(m_items.begin() + index);
+    if (!item)
+        return nullptr;
+    m_items.erase(m_items.begin() + index);
+    // The caller owns a nested layout only when it is no longer a child of this one.
+    if (QLayout *nested = item->layout(); nested && nested->parent() == this)
+        nested->setParent(nullptr);
     return item;
 }
 

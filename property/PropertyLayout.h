@@ -5,7 +5,7 @@
 #include <QLayout>
 #include <QSize>
 
-#include <vector>
+#include <deque>
 
 namespace Tessark::PropertyUI {
 
@@ -58,8 +58,8 @@ public:
     int count() const override;
     QSize sizeHint() const override;
 
-    /// Adds an item, which the layout owns from now on. NewRow clears ExpandHorizontal unless
-    /// FullWidth, which implies NewRow, is given too. The alignment is stored and never read.
+    /// Adds an item, which the layout owns from now on. NewRow clears ExpandHorizontal; FullWidth
+    /// implies NewRow without clearing it. The alignment is stored and never read.
     void addItem(QLayoutItem *item, LayoutOptions options, Qt::Alignment alignment);
 
     /// Adds a widget or a nested layout and makes it a child.
@@ -110,7 +110,7 @@ private:
     void sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const;
     void placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const;
 
-    mutable std::vector<Entry> m_items; // measuring and placing note sizes here
+    mutable std::deque<Entry> m_items; // measuring and placing note sizes here
     int m_verticalSpacing = 0;
     int m_horizontalSpacing = 0;
     int m_labelSpacing = 10;

@@ -98,10 +98,13 @@ private Q_SLOTS:
     void takeAtOutOfRangeIsNull_data();
     void takeAtOutOfRangeIsNull();
     void takeAtGivesItemAway();
+    void takenNestedLayoutIsTheCallers();
     void takeAtInvalidatesNothing();
     void deletedWidgetLeavesLayout();
+    void deletesItemsInOrder();
     void leavesWidgetsToTheirParent();
     void deletesNestedLayouts();
+    void itemDeletedByAnotherItemIsNotDeletedTwice();
 
     void emptyLayoutSize_data();
     void emptyLayoutSize();
@@ -548,6 +551,21 @@ void tst_PropertyLayout::takeAtGivesItemAway()
     QVERIFY(deleted);
 }
 
+void tst_PropertyLayout::takenNestedLayoutIsTheCallers()
+{
+    const QPointer<QHBoxLayout> nested = new QHBoxLayout;
+    m_layout->addLayout(nested, kNewRow);
+    place(300, 100);
+
+    const std::unique_ptr<QLayoutItem> taken(m_layout->takeAt(0));
+    QCOMPARE(m_layout->geometry(), QRect(0, 0, 300, 100));
+    delete m_layout;
+
+    QVERIFY(nested);
+    QCOMPARE(taken.get(), nested.data());
+    QVERIFY(!nested->parent());
+}
+
 void tst_PropertyLayout::takeAtInvalidatesNothing()
 {
     addItem(new FixedHintItem(QSize(10, 10)), kNewRow);
@@ -570,6 +588,25 @@ void tst_PropertyLayout::deletedWidgetLeavesLayout()
     QCOMPARE(m_layout->indexOf(second), 0);
 }
 
+void tst_PropertyLayout::deletesItemsInOrder()
+{
+    QByteArray order;
+    QList<int> counts;
+    auto *const layout = new PropertyLayout(4);
+    for (const char name : QByteArray("abc")) {
+        layout->addItem(new DeletionItem([&order, &counts, layout, name] {
+                            order += name;
+                            counts += layout->count();
+                        }),
+                        kNewRow, {});
+    }
+
+    delete layout;
+
+    QCOMPARE(order, QByteArray("abc"));
+    QCOMPARE(counts, QList<int>({2, 1, 0})); // each is out of the layout before it goes
+}
+
 void tst_PropertyLayout::leavesWidgetsToTheirParent()
 {
     const QPointer<QWidget> widget = add(QSize(10, 10), kNewRow);
@@ -588,6 +625,20 @@ void tst_PropertyLayout::deletesNestedLayouts()
     delete m_layout;
 
     QVERIFY(!nested);
+}
+
+void tst_PropertyLayout::itemDeletedByAnotherItemIsNotDeletedTwice()
+{
+    const QPointer<QHBoxLayout> nested = new QHBoxLayout;
+    m_layout->addItem(new DeletionItem([nested] { delete nested; }), kNewRow, {});
+    m_layout->addLayout(nested, kNewRow);
+    bool lastDeleted = false;
+    m_layout->addItem(new DeletionItem([&lastDeleted] { lastDeleted = true; }), kNewRow, {});
+
+    delete m_layout;
+
+    QVERIFY(!nested);
+    QVERIFY(lastDeleted);
 }
 
 // Sizes

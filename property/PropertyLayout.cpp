@@ -167,6 +167,8 @@ QSize PropertyLayout::sizeHint() const
 
 void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Alignment alignment)
 {
+    if (!item)
+        return;
     // In this order on purpose: a full-width row keeps ExpandHorizontal, a label does not.
     if (options & NewRow)
         options &= ~LayoutOptions(ExpandHorizontal);
@@ -191,6 +193,8 @@ void PropertyLayout::addWidget(QWidget *widget, LayoutOptions options)
 
 void PropertyLayout::addLayout(QLayout *layout, LayoutOptions options)
 {
+    if (!layout)
+        return;
     addChildLayout(layout);
     addItem(layout, options, Qt::AlignCenter);
 }
@@ -208,6 +212,8 @@ void PropertyLayout::addRow(QWidget *widget)
 
 void PropertyLayout::addChildItem(QWidget *widget, LayoutOptions options)
 {
+    if (!widget)
+        return;
     addChildWidget(widget);
     addItem(new QWidgetItem(widget), options, Qt::AlignCenter);
 }

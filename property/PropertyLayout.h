@@ -59,7 +59,8 @@ public:
     QSize sizeHint() const override;
 
     /// Adds an item, which the layout owns from now on. NewRow clears ExpandHorizontal; FullWidth
-    /// implies NewRow without clearing it. The alignment is stored and never read.
+    /// implies NewRow without clearing it. The alignment is stored and never read. A null item,
+    /// widget or layout is not added.
     void addItem(QLayoutItem *item, LayoutOptions options, Qt::Alignment alignment);
 
     /// Adds a widget or a nested layout and makes it a child.

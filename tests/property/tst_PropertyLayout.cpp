@@ -92,6 +92,7 @@ private Q_SLOTS:
     void addRowOfOneWidgetSpansBothColumns();
     void labelGetsItsParentWithTheLayout();
     void addingInvalidates();
+    void nullIsNotAdded();
 
     void itemAtOutOfRangeIsNull_data();
     void itemAtOutOfRangeIsNull();
@@ -487,6 +488,18 @@ void tst_PropertyLayout::addingInvalidates()
     addItem(new FixedHintItem(QSize(10, 10)), kNewRow);
 
     QCOMPARE(m_layout->geometry(), QRect());
+}
+
+void tst_PropertyLayout::nullIsNotAdded()
+{
+    m_layout->addItem(nullptr);
+    m_layout->addWidget(nullptr, kNewRow);
+    m_layout->addLayout(nullptr, kNewRow);
+    m_layout->addRow(nullptr);
+    QCOMPARE(m_layout->count(), 0);
+
+    m_layout->addRow(QStringLiteral("Label alone"), nullptr);
+    QCOMPARE(m_layout->count(), 1);
 }
 
 // Access and ownership

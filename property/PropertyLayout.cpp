@@ -30,6 +30,15 @@ int bounded(int minimum, int value, int maximum)
     return std::max(std::min(value, maximum), minimum);
 }
 
+/// The rectangle, cut off where its edges leave the range of int.
+QRect rectangle(qint64 x, qint64 y, int width, int height)
+{
+    QRect result;
+    result.setCoords(saturated(x), saturated(y), saturated(x + width - 1),
+                     saturated(y + height - 1));
+    return result;
+}
+
 int groupIndent(qint64 depth)
 {
     // The top group level is not indented, each deeper one adds a step.
@@ -407,12 +416,12 @@ void PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int label
         const Entry &entry = m_items[i];
         const bool isRowLabel = i == row.first && !(entry.options & FullWidth);
         if (isRowLabel)
-            x += labelWidth - entry.width;
+            x += qint64(labelWidth) - entry.width;
         // A fixed item keeps its size-hint height even where its maximum made the row lower.
         const bool fillsRow = entry.expandsVertically();
         const int height = fillsRow ? row.height : entry.height;
-        const qint64 y = fillsRow ? top : top + (row.height - height) / 2;
-        entry.item->setGeometry(QRect(saturated(x), saturated(y), entry.width, height));
+        const qint64 y = fillsRow ? top : top + (qint64(row.height) - height) / 2;
+        entry.item->setGeometry(rectangle(x, y, entry.width, height));
         if (isRowLabel)
             x = left + labelWidth + m_labelSpacing;
         else // hidden entries too: they take the place of their last width

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <functional>
+#include <limits>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -160,6 +161,7 @@ private Q_SLOTS:
     void expandingRowKeepsToItsFloor_data();
     void expandingRowKeepsToItsFloor();
     void expandingRowIsNeverTallerThan10000();
+    void hugeSizesDoNotOverflow();
 
     void hiddenRowTakesNoSpace();
     void hiddenLastItemLeavesRowOpen();
@@ -1298,6 +1300,23 @@ void tst_PropertyLayout::expandingRowIsNeverTallerThan10000()
     place(300, 50000);
 
     QCOMPARE(item->geometry(), QRect(4, 4, 30, 10000));
+}
+
+void tst_PropertyLayout::hugeSizesDoNotOverflow()
+{
+    const int huge = std::numeric_limits<int>::max();
+    const QSize size(huge, huge);
+    for (int row = 0; row < 3; ++row) {
+        addItem(new FixedHintItem(size, size, size), kNewRow);
+        addItem(new FixedHintItem(size, size, size), kExpandHorizontal);
+        addItem(new FixedHintItem(size, size, size), Options());
+    }
+    const FixedHintItem *last = addItem(new FixedHintItem(QSize(30, 10)), kFullWidth);
+
+    place(300, 100);
+
+    QCOMPARE(measured(), size);
+    QCOMPARE(last->geometry().topLeft(), QPoint(4, huge));
 }
 
 // Hidden items

@@ -139,7 +139,11 @@ QSize PropertyLayout::minimumSize() const
 void PropertyLayout::setGeometry(const QRect &rect)
 {
     QLayout::setGeometry(rect);
+    const QPointer<PropertyLayout> self(this);
+    const quint32 revision = m_revision;
     doLayout(rect, false, SizeType::Preferred);
+    if (self && m_revision != revision)
+        invalidate(); // placing ended early and has to be done anew
 }
 
 QLayoutItem *PropertyLayout::itemAt(int index) const
@@ -156,6 +160,7 @@ QLayoutItem *PropertyLayout::takeAt(int index)
     if (!item)
         return nullptr;
     m_items.erase(m_items.begin() + index);
+    ++m_revision;
     // The caller owns a nested layout only when it is no longer a child of this one.
     if (QLayout *nested = item->layout(); nested && nested->parent() == this)
         nested->setParent(nullptr);
@@ -190,6 +195,7 @@ void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Align
             options |= EndGroup;
     }
     m_items.push_back({item, options, -1, -1, alignment});
+    ++m_revision;
     m_cachedSizeHint = QSize();
     m_cachedMinimumSize = QSize();
     invalidate();
@@ -292,8 +298,8 @@ QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
             continue;
         const qint64 left = qint64(margins.left()) + groupIndent(depth);
         sizeRow(row, qint64(rect.width()) - left - margins.right(), total);
-        if (!testOnly)
-            placeRow(row, left, y, total.labelWidth);
+        if (!testOnly && !placeRow(row, left, y, total.labelWidth))
+            return {};
         y += qint64(row.height) + m_verticalSpacing;
     }
     return {saturated(total.fieldWidth + total.labelWidth + margins.left() + m_labelSpacing
@@ -409,8 +415,12 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
     }
 }
 
-void PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const
+/// Gives the items of row their rectangles. False when one of them made the host change the list or
+/// delete the layout: row and the caller's indexes are void then, and nothing may be touched.
+bool PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const
 {
+    const QPointer<const PropertyLayout> self(this);
+    const quint32 revision = m_revision;
     qint64 x = left;
     for (std::size_t i = row.first; i <= row.last; ++i) {
         const Entry &entry = m_items[i];
@@ -422,11 +432,14 @@ void PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int label
         const int height = fillsRow ? row.height : entry.height;
         const qint64 y = fillsRow ? top : top + (qint64(row.height) - height) / 2;
         entry.item->setGeometry(rectangle(x, y, entry.width, height));
+        if (!self || m_revision != revision)
+            return false;
         if (isRowLabel)
             x = left + labelWidth + m_labelSpacing;
         else // hidden entries too: they take the place of their last width
             x += qint64(entry.width) + m_horizontalSpacing;
     }
+    return true;
 }
 
 } // namespace Tessark::PropertyUI

@@ -27,16 +27,18 @@ constexpr auto kFullWidth = PropertyLayout::FullWidth;
 constexpr auto kBeginGroup = PropertyLayout::BeginGroup;
 constexpr auto kEndGroup = PropertyLayout::EndGroup;
 
-/// Runs a callback when shown, as a host's own editor widget might.
+/// Runs a callback when shown, hidden or resized, as a host's own editor widget might.
 class CallbackWidget final : public FixedHintWidget
 {
 public:
     using FixedHintWidget::FixedHintWidget;
 
     std::function<void()> onShow;
+    std::function<void()> onResize;
 
 protected:
     void showEvent(QShowEvent *) override { call(onShow); }
+    void resizeEvent(QResizeEvent *) override { call(onResize); }
 
 private:
     // The callback may delete this widget, and with it the function that runs.
@@ -196,6 +198,10 @@ private Q_SLOTS:
     void layoutDeletedWhileGroupShows();
     void panelDeletedWhileGroupShows();
 
+    void rowAddedWhilePlacing();
+    void rowTakenWhilePlacing();
+    void widgetDeletedWhilePlacing();
+    void layoutDeletedWhilePlacing();
     void twentyThousandItems();
 
 private:
@@ -1783,6 +1789,79 @@ void tst_PropertyLayout::panelDeletedWhileGroupShows()
 
     QVERIFY(!m_layout);
     QVERIFY(elsewhere->isVisible());
+}
+
+// Host code that runs while items are placed
+
+void tst_PropertyLayout::rowAddedWhilePlacing()
+{
+    auto *const first = new CallbackWidget(QSize(10, 10));
+    m_layout->addWidget(first, kNewRow);
+    add(QSize(10, 10), kExpandHorizontal);
+    m_host->show();
+    QPointer<QWidget> added;
+    first->onResize = [this, &added] {
+        for (int i = 0; i < 100 && m_layout->count() < 100; ++i)
+            added = add(QSize(10, 10), kFullWidth);
+        added->show();
+    };
+    first->setHint(QSize(20, 20));
+
+    place(300, 100);
+
+    QCOMPARE(m_layout->count(), 100);
+    QTRY_COMPARE(added->y(), 4 + 24 + 97 * 14);
+}
+
+void tst_PropertyLayout::rowTakenWhilePlacing()
+{
+    auto *const first = new CallbackWidget(QSize(10, 10));
+    m_layout->addWidget(first, kFullWidth);
+    add(QSize(10, 10), Options());
+    const FixedHintWidget *last = add(QSize(10, 10), kFullWidth);
+    m_host->show();
+    std::unique_ptr<QLayoutItem> taken;
+    first->onResize = [this, &taken] {
+        if (!taken)
+            taken.reset(m_layout->takeAt(1));
+    };
+    first->setHint(QSize(20, 20));
+
+    place(300, 100);
+
+    // What was placed half is placed anew.
+    QCOMPARE(m_layout->count(), 2);
+    QTRY_COMPARE(last->y(), 4 + 24);
+}
+
+void tst_PropertyLayout::widgetDeletedWhilePlacing()
+{
+    auto *const first = new CallbackWidget(QSize(10, 10));
+    m_layout->addWidget(first, kFullWidth);
+    const QPointer<QWidget> second = add(QSize(10, 10), Options());
+    const FixedHintWidget *last = add(QSize(10, 10), kFullWidth);
+    m_host->show();
+    first->onResize = [second] { delete second; };
+    first->setHint(QSize(20, 20));
+
+    place(300, 100);
+
+    QVERIFY(!second);
+    QTRY_COMPARE(last->y(), 4 + 24);
+}
+
+void tst_PropertyLayout::layoutDeletedWhilePlacing()
+{
+    auto *const first = new CallbackWidget(QSize(10, 10));
+    m_layout->addWidget(first, kFullWidth);
+    add(QSize(10, 10), Options());
+    m_host->show();
+    first->onResize = [this] { delete m_layout; };
+    first->setHint(QSize(20, 20));
+
+    place(300, 100);
+
+    QVERIFY(!m_layout);
 }
 
 void tst_PropertyLayout::twentyThousandItems()

@@ -1,5 +1,6 @@
 #include "property/PropertyLayout.h"
 
+#include <QChildEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QVariant>
@@ -50,6 +51,45 @@ qint64 equalShare(qint64 spare, int count)
 {
     return count > 0 ? spare / count : spare;
 }
+
+/// Takes the item of a widget out of the layout or a nested one. The widget may be half destroyed.
+bool removeWidgetItem(QLayout *layout, const QObject *widget)
+{
+    QLayoutItem *item = nullptr;
+    for (int i = 0; (item = layout->itemAt(i)); ++i) {
+        if (item->widget() == widget) {
+            delete layout->takeAt(i);
+            layout->invalidate();
+            return true;
+        }
+        if (item->layout() && removeWidgetItem(item->layout(), widget))
+            return true;
+    }
+    return false;
+}
+
+/// Lets widgets that leave their parent leave the layout too. A layout does that itself, but not
+/// while it is disabled, and would keep the item of a deleted widget.
+class LeavingWidgets final : public QObject
+{
+public:
+    explicit LeavingWidgets(QLayout *layout)
+        : m_layout(layout)
+    {
+        if (QWidget *parent = layout->parentWidget())
+            parent->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (m_layout && event->type() == QEvent::ChildRemoved)
+            removeWidgetItem(m_layout, static_cast<QChildEvent *>(event)->child());
+        return false;
+    }
+
+private:
+    const QPointer<QLayout> m_layout;
+};
 
 } // namespace
 
@@ -254,16 +294,21 @@ void PropertyLayout::setGroupVisible(QWidget *groupWidget, bool visible)
 
     // Showing a widget runs code of the host, which may add or take rows or delete the layout.
     const QPointer<PropertyLayout> self(this);
-    const auto firstInside = static_cast<std::size_t>(begin - m_items.begin()) + 1;
+    auto i = static_cast<std::size_t>(begin - m_items.begin()) + 1;
+    const LeavingWidgets leavingWidgets(this);
     setEnabled(false);
     int level = 1;
-    for (std::size_t i = firstInside; self && i < m_items.size(); ++i) {
-        if (m_items[i].options & BeginGroup)
+    while (self && i < m_items.size()) {
+        const Entry &entry = m_items[i];
+        if (entry.options & BeginGroup)
             ++level;
-        else if ((m_items[i].options & EndGroup) && --level == 0)
+        else if ((entry.options & EndGroup) && --level == 0)
             break;
-        if (QWidget *widget = m_items[i].item->widget())
+        QLayoutItem *const item = entry.item;
+        if (QWidget *widget = item->widget())
             widget->setVisible(visible);
+        if (self)
+            i = indexAfter(item, i);
     }
     if (!self)
         return;
@@ -440,6 +485,17 @@ bool PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int label
             x += qint64(entry.width) + m_horizontalSpacing;
     }
     return true;
+}
+
+/// Where a walk goes on after host code ran while it was at item, then at index: behind item, or,
+/// where item has left the list, with the one that moved into its place.
+std::size_t PropertyLayout::indexAfter(const QLayoutItem *item, std::size_t index) const
+{
+    const auto isItem = [item](const Entry &entry) { return entry.item == item; };
+    if (index < m_items.size() && isItem(m_items[index]))
+        return index + 1;
+    const auto found = std::find_if(m_items.begin(), m_items.end(), isItem);
+    return found == m_items.end() ? index : static_cast<std::size_t>(found - m_items.begin()) + 1;
 }
 
 } // namespace Tessark::PropertyUI

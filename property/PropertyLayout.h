@@ -111,6 +111,7 @@ private:
     void sizeRow(Row &row, qint64 rowSpace, Measure &measure) const;
     void sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const;
     bool placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const;
+    std::size_t indexAfter(const QLayoutItem *item, std::size_t index) const;
 
     mutable std::deque<Entry> m_items; // measuring and placing note sizes here
     quint32 m_revision = 0;            // of the list; rises whenever an item comes or goes

@@ -195,6 +195,8 @@ private Q_SLOTS:
     void groupOfWidgetListedTwiceBeginsAtFirst();
     void itemsWithoutWidgetAreWalkedOver();
     void rowAddedWhileGroupShows();
+    void rowsTakenWhileGroupShows();
+    void nestedWidgetDeletedWhileGroupShows();
     void layoutDeletedWhileGroupShows();
     void panelDeletedWhileGroupShows();
 
@@ -1753,6 +1755,51 @@ void tst_PropertyLayout::rowAddedWhileGroupShows()
     QCOMPARE(m_layout->count(), 102);
     QVERIFY(added->isVisible());
     QTRY_COMPARE(added->y(), 4 + 101 * 14);
+}
+
+void tst_PropertyLayout::rowsTakenWhileGroupShows()
+{
+    auto *const before = add(QSize(10, 10), kFullWidth);
+    QWidget *const begin = addMarker("beginGroup");
+    auto *const first = new CallbackWidget(QSize(10, 10));
+    m_layout->addWidget(first, kFullWidth);
+    auto *const second = new CallbackWidget(QSize(10, 10));
+    m_layout->addWidget(second, kFullWidth);
+    const FixedHintWidget *third = add(QSize(10, 10), kFullWidth);
+    const FixedHintWidget *fourth = add(QSize(10, 10), kFullWidth);
+    const FixedHintWidget *below = addGroupRows(").").back();
+    m_host->show();
+    m_layout->setGroupVisible(begin, false);
+    first->onShow = [before] { delete before; }; // moves every row up
+    second->onShow = [this, second] { m_layout->removeWidget(second); };
+
+    m_layout->setGroupVisible(begin, true);
+
+    QVERIFY(third->isVisible());
+    QVERIFY(fourth->isVisible());
+    QVERIFY(m_layout->isEnabled());
+    QTRY_COMPARE(below->y(), 4 + 5 * 14);
+}
+
+void tst_PropertyLayout::nestedWidgetDeletedWhileGroupShows()
+{
+    auto *const nested = new QHBoxLayout;
+    const QPointer<QWidget> inner = new FixedHintWidget(QSize(10, 10));
+    nested->addWidget(new FixedHintWidget(QSize(10, 10)));
+    nested->addWidget(inner);
+    m_layout->addLayout(nested, kFullWidth);
+    QWidget *const begin = addMarker("beginGroup");
+    auto *const inside = new CallbackWidget(QSize(10, 10));
+    m_layout->addWidget(inside, kFullWidth);
+    m_host->show();
+    m_layout->setGroupVisible(begin, false);
+    inside->onShow = [inner] { delete inner; };
+
+    m_layout->setGroupVisible(begin, true);
+
+    QVERIFY(!inner);
+    QCOMPARE(nested->count(), 1);
+    QCOMPARE(m_layout->count(), 3);
 }
 
 void tst_PropertyLayout::layoutDeletedWhileGroupShows()

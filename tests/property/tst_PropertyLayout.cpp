@@ -803,6 +803,8 @@ void tst_PropertyLayout::widthIsWidestLabelPlusWidestFields()
     add(QSize(80, 10), kExpandHorizontal);
     add(QSize(50, 10), kNewRow);
     add(QSize(20, 10), Options());
+    add(QSize(40, 10), kNewRow);
+    add(QSize(10, 10), Options());
 
     QCOMPARE(m_layout->sizeHint().width(), 4 + 50 + 10 + 80 + 4);
 }
@@ -1319,12 +1321,14 @@ void tst_PropertyLayout::hugeSizesDoNotOverflow()
         addItem(new FixedHintItem(size, size, size), kExpandHorizontal);
         addItem(new FixedHintItem(size, size, size), Options());
     }
+    const QLayoutItem *beyond = m_layout->itemAt(m_layout->count() - 1);
     const FixedHintItem *last = addItem(new FixedHintItem(QSize(30, 10)), kFullWidth);
 
     place(300, 100);
 
     QCOMPARE(measured(), size);
-    QCOMPARE(last->geometry().topLeft(), QPoint(4, huge));
+    QCOMPARE(beyond->geometry(), QRect(QPoint(huge, huge), QPoint(huge, huge)));
+    QCOMPARE(last->geometry(), QRect(QPoint(4, huge), QPoint(4 + 30 - 1, huge)));
 }
 
 // Hidden items
@@ -1775,6 +1779,8 @@ void tst_PropertyLayout::rowsTakenWhileGroupShows()
 
     m_layout->setGroupVisible(begin, true);
 
+    QCOMPARE(m_layout->indexOf(second), -1);
+    QVERIFY(second->isVisible());
     QVERIFY(third->isVisible());
     QVERIFY(fourth->isVisible());
     QVERIFY(m_layout->isEnabled());

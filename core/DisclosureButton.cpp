@@ -247,27 +247,45 @@ bool DisclosureButton::isRound() const
     return property(kGroupProperty).toString() == QLatin1String("round");
 }
 
+/// A style sheet draws no triangles, but borders meet at a slant: in a box without content, one
+/// coloured border between two invisible ones is a triangle, without an image and in any resolution.
+/// The invisible colour is not "transparent", for which no room would be left at the slant. Margins
+/// fill the indicator up to 16 x 16 in every state. The last rules come in two spellings because Qt 5
+/// and Qt 6 turn the property's value into text differently.
 QString disclosureStyleSheet()
 {
-    // A style sheet draws no triangles, but borders meet at a slant: in a box without content, one
-    // coloured border between two transparent ones is a triangle, without an image and in any
-    // resolution. Margins fill the indicator up to 16 x 16 in every state.
     return QStringLiteral(R"(
 QCheckBox[disclosure="true"]::indicator {
     width: 0px;
     height: 0px;
     border-style: solid;
-    border-color: transparent;
+    border-color: rgba(255, 255, 255, 0);
+}
+QCheckBox[disclosure="true"]::indicator:checked {
+    margin: 5px 4px 4px 4px;
+    border-width: 7px 4px 0px 4px;
+    border-top-color: palette(button-text);
+}
+QCheckBox[disclosure="true"]::indicator:checked:disabled {
+    border-top-color: palette(mid);
 }
 QCheckBox[disclosure="true"]::indicator:unchecked {
     margin: 4px 5px 4px 4px;
     border-width: 4px 0px 4px 7px;
     border-left-color: palette(button-text);
 }
-QCheckBox[disclosure="true"]::indicator:checked {
-    margin: 5px 4px 4px 4px;
-    border-width: 7px 4px 0px 4px;
-    border-top-color: palette(button-text);
+QCheckBox[disclosure="true"]::indicator:unchecked:disabled {
+    border-left-color: palette(mid);
+}
+QCheckBox[disclosure="true"][layoutDirection="1"]::indicator:unchecked,
+QCheckBox[disclosure="true"][layoutDirection="RightToLeft"]::indicator:unchecked {
+    margin: 4px 4px 4px 5px;
+    border-width: 4px 7px 4px 0px;
+    border-right-color: palette(button-text);
+}
+QCheckBox[disclosure="true"][layoutDirection="1"]::indicator:unchecked:disabled,
+QCheckBox[disclosure="true"][layoutDirection="RightToLeft"]::indicator:unchecked:disabled {
+    border-right-color: palette(mid);
 }
 )");
 }

@@ -59,8 +59,12 @@ protected:
         case PdmPhysicalDpiX:
         case PdmPhysicalDpiY:
             return kDotsPerInch;
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return qRound(devicePixelRatioFScale());
         default:
-            return QPaintDevice::metric(metric);
+            return 0;
         }
     }
 

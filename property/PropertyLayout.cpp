@@ -154,6 +154,8 @@ void PropertyLayout::initialise(int spacing)
 
 PropertyLayout::~PropertyLayout()
 {
+    // A disabled layout does not search itself for every nested layout that leaves.
+    setEnabled(false);
     // One by one, so that an item whose deletion deletes another finds that one still listed.
     while (const QLayoutItem *item = PropertyLayout::takeAt(0))
         delete item;

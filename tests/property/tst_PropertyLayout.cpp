@@ -1799,11 +1799,16 @@ void tst_PropertyLayout::nestedWidgetDeletedWhileGroupShows()
     m_layout->addWidget(inside, kFullWidth);
     m_host->show();
     m_layout->setGroupVisible(begin, false);
-    inside->onShow = [inner] { delete inner; };
+    const QPointer<QWidget> unlisted = new QWidget(m_host.get());
+    inside->onShow = [inner, unlisted] {
+        delete inner;
+        delete unlisted;
+    };
 
     m_layout->setGroupVisible(begin, true);
 
     QVERIFY(!inner);
+    QVERIFY(!unlisted);
     QCOMPARE(nested->count(), 1);
     QCOMPARE(m_layout->count(), 3);
 }

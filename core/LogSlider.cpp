@@ -165,10 +165,8 @@ void LogSlider::takeRealValue(double value)
         return;
     m_realValue = bounded;
     m_unannounced = !signalsBlocked();
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent event(this, m_realValue);
-        QAccessible::updateAccessibility(&event);
-    }
+    QAccessibleValueChangeEvent event(this, m_realValue); // QAbstractSlider tells the position only
+    QAccessible::updateAccessibility(&event);
 }
 
 void LogSlider::moveToRealPosition()

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/CoreExport.h"
-
 namespace Tessark::UI {
 
 /// The integer positions of a slider, both ends included; minimum <= maximum.
@@ -32,12 +30,12 @@ struct LinearScale
 // different numbers; real values must not be NaN.
 
 /// The double nearest to 10^exponent, for exponents in -300..300.
-TESSARK_CORE_EXPORT double powerOfTen(int exponent);
+double powerOfTen(int exponent);
 
-TESSARK_CORE_EXPORT double realAt(const LogScale &scale, PositionRange range, int position);
-TESSARK_CORE_EXPORT int positionOf(const LogScale &scale, PositionRange range, double value);
+double realAt(const LogScale &scale, PositionRange range, int position);
+int positionOf(const LogScale &scale, PositionRange range, double value);
 
-TESSARK_CORE_EXPORT double realAt(const LinearScale &scale, PositionRange range, int position);
-TESSARK_CORE_EXPORT int positionOf(const LinearScale &scale, PositionRange range, double value);
+double realAt(const LinearScale &scale, PositionRange range, int position);
+int positionOf(const LinearScale &scale, PositionRange range, double value);
 
 } // namespace Tessark::UI

@@ -7,8 +7,6 @@
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
-#include <property/Property.h>
-
 namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
@@ -31,6 +29,8 @@ QHash<QString, Property *> valuedProperties(const PropertyList &list)
 PropertyStore::PropertyStore(QObject *parent)
     : QObject(parent)
 {
+    // Signal spies and queued connections look the parameter of valueChanged() up by this name.
+    qRegisterMetaType<Property *>("Tessark::PropertyUI::Property*");
 }
 
 PropertyStore::~PropertyStore() = default;

@@ -3,18 +3,16 @@
 #include "host/Problem.h"
 
 #include <property/IPropertyEditorDelegate.h>
+#include <property/Property.h>
 
 #include <QByteArray>
 #include <QHash>
 #include <QJsonObject>
+#include <QMetaType>
 #include <QObject>
 #include <QString>
 #include <QVariant>
 #include <QVector>
-
-namespace Tessark::PropertyUI {
-class Property;
-}
 
 namespace Tessark::PropertyHost {
 
@@ -62,7 +60,8 @@ public:
 Q_SIGNALS:
     /// A panel, or another caller of setValue(), set a value. continued says that it goes on with
     /// the change before it. The value is invalid when an action was triggered.
-    void valueChanged(PropertyUI::Property *property, const QVariant &value, bool continued);
+    void valueChanged(Tessark::PropertyUI::Property *property, const QVariant &value,
+                      bool continued);
 
 private:
     void readValue(const PropertyUI::Property &property, const QJsonValue &json,
@@ -73,3 +72,5 @@ private:
 };
 
 } // namespace Tessark::PropertyHost
+
+Q_DECLARE_METATYPE(Tessark::PropertyUI::Property *)

@@ -356,10 +356,8 @@ void PropertyLayout::sizeRow(Row &row, qint64 rowSpace, Measure &measure) const
     row.heightFloor = 0;
     row.expandsVertically = false;
     for (std::size_t i = row.first; i <= row.last; ++i) {
-        if (m_items[i].item->isEmpty())
-            continue;
-        sizeWidth(m_items[i], row, spareWidth);
-        sizeHeight(m_items[i], row);
+        if (!m_items[i].item->isEmpty())
+            sizeItem(m_items[i], row, spareWidth);
     }
     if (!row.expandsVertically)
         return;
@@ -369,28 +367,25 @@ void PropertyLayout::sizeRow(Row &row, qint64 rowSpace, Measure &measure) const
     measure.spareHeight -= row.height;
 }
 
-void PropertyLayout::sizeWidth(Entry &entry, Row &row, qint64 &spareWidth) const
+void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
 {
+    // Asked for once: a widget computes them anew each time.
+    const QSize minimum = entry.item->minimumSize();
+    const QSize maximum = entry.item->maximumSize();
     const bool takesShare = !entry.isLabel() && entry.expandsHorizontally();
     if (takesShare) {
         entry.width = saturated(equalShare(spareWidth, row.expandCount));
         --row.expandCount;
     }
-    entry.width =
-        bounded(entry.item->minimumSize().width(), entry.width, entry.item->maximumSize().width());
+    entry.width = bounded(minimum.width(), entry.width, maximum.width());
     if (takesShare)
         spareWidth -= qint64(entry.width) + m_horizontalSpacing;
-}
 
-void PropertyLayout::sizeHeight(const Entry &entry, Row &row) const
-{
-    const int minimum = entry.item->minimumSize().height();
-    const int maximum = entry.item->maximumSize().height();
-    const int height = bounded(minimum, entry.height, maximum);
+    const int height = bounded(minimum.height(), entry.height, maximum.height());
     row.height = std::max(row.height, height);
     if (entry.expandsVertically()) {
-        row.heightCap = std::min(row.heightCap, maximum);
-        row.heightFloor = std::max(row.heightFloor, minimum);
+        row.heightCap = std::min(row.heightCap, maximum.height());
+        row.heightFloor = std::max(row.heightFloor, minimum.height());
         row.expandsVertically = true;
     } else {
         row.heightFloor = std::max(row.heightFloor, height);

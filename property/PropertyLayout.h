@@ -107,8 +107,7 @@ private:
     Measure measure() const;
     void beginRowAt(std::size_t index, int labelWidth, Row &row) const;
     void sizeRow(Row &row, qint64 rowSpace, Measure &measure) const;
-    void sizeWidth(Entry &entry, Row &row, qint64 &spareWidth) const;
-    void sizeHeight(const Entry &entry, Row &row) const;
+    void sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const;
     void placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const;
 
     mutable std::vector<Entry> m_items; // measuring and placing note sizes here

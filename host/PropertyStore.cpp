@@ -7,16 +7,18 @@
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
+#include <QMap>
+
 namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
 
 namespace {
 
-/// The properties with a value, by name.
-QHash<QString, Property *> valuedProperties(const PropertyList &list)
+/// The properties with a value, sorted by name as the keys of a JSON object are.
+QMap<QString, Property *> valuedProperties(const PropertyList &list)
 {
-    QHash<QString, Property *> result;
+    QMap<QString, Property *> result;
     for (Property *property : list.properties()) {
         if (carriesValue(property->type))
             result.insert(property->name, property);
@@ -70,7 +72,7 @@ QVector<Problem> PropertyStore::readValues(const QByteArray &json, const Propert
         return collector.take();
     }
     const QJsonObject values = document->object();
-    const QHash<QString, Property *> properties = valuedProperties(list);
+    const QMap<QString, Property *> properties = valuedProperties(list);
     m_unknownValues = {};
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
         const Property *const property = properties.value(it.key());

@@ -54,7 +54,8 @@ public:
     QVector<Problem> readValues(const QByteArray &json, const PropertyList &list);
 
     /// The values of the list's properties, and those that readValues() kept for unknown names.
-    /// A property whose value has no JSON form is absent.
+    /// A property whose value has no JSON form is absent. With Qt 5, whose JSON knows doubles only,
+    /// a kept whole number beyond 2 to the power of 53 is rounded.
     QJsonObject toJson(const PropertyList &list) const;
 
 Q_SIGNALS:

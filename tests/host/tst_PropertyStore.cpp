@@ -310,7 +310,7 @@ void tst_PropertyStore::everyProblemIsListed()
 void tst_PropertyStore::unknownValuesAreWrittenBack()
 {
     const QByteArray unknown = R"({"Z":null,"a":[1,2.5,{"b":"\ud800","k":[]}],)"
-                               R"("big":9007199254740993,"empty":"","f":1e-300,"t":true})";
+                               R"("big":9007199254740991,"empty":"","f":1e-300,"t":true})";
     QJsonObject expected = QJsonDocument::fromJson(unknown).object();
 
     QVERIFY(m_store->readValues(unknown, m_list).isEmpty());

@@ -1,3 +1,4 @@
+#include <host/InputFile.h>
 #include <host/PropertyListReader.h>
 
 #include <property/PropertyUI.h>
@@ -796,6 +797,13 @@ void tst_PropertyListReader::hostileInputIsSurvived_data()
         << false;
     QTest::newRow("type of a million letters")
         << documentOf(R"({"name": "a", "type": ")" + QByteArray(1000000, 'x') + R"("})") << true;
+    QTest::newRow("text of the largest file")
+        << documentOf(R"({"name": "a", "type": "text", "default": ")"
+                      + QByteArray(int(kMaximumInputSize) - 100, 'x') + R"("})")
+        << true;
+    QTest::newRow("tens of thousands of mistakes")
+        << documentOf(QByteArray(R"({"name": "a", "type": "bol", "x": 1},)").repeated(20000) + "0")
+        << false;
     QTest::newRow("lone surrogates")
         << documentOf(R"({"name": "\ud800", "type": "string", "default": "\udc00x"})") << true;
     QTest::newRow("embedded zero characters")

@@ -18,6 +18,13 @@ constexpr int kLogarithmicPositions = 1000;
 constexpr double kSmallestLogarithmic = 0.00001;  // in displayed units
 constexpr double kLogarithmicReplacement = 0.001; // in stored units
 
+/// Whether a display scale is 0 or no number, so that what is displayed tells nothing about what is
+/// stored.
+bool isLost(double displayScale)
+{
+    return displayScale == 0.0 || std::isnan(displayScale);
+}
+
 /// A step of at least smallest, and for wide ranges that many slider units per displayed unit.
 int linearStep(int smallest, double span)
 {
@@ -82,7 +89,7 @@ double FloatPropertyEditor::sliderValue() const
 {
     if (const auto *slider = qobject_cast<const UI::LogSlider *>(m_slider))
         return toStored(slider->realValue());
-    if (!m_slider || m_displayScale == 0.0)
+    if (!m_slider || isLost(m_displayScale))
         return 0.0;
     return m_slider->value() / (m_displayScale * kSliderUnitsPerUnit);
 }
@@ -148,10 +155,9 @@ DoubleSpinBox *FloatPropertyEditor::makeSpinBox()
     return spinBox;
 }
 
-/// A scale of 0 shows every value as 0, and tells nothing about the stored one.
 double FloatPropertyEditor::toStored(double displayed) const
 {
-    return m_displayScale == 0.0 ? 0.0 : displayed / m_displayScale;
+    return isLost(m_displayScale) ? 0.0 : displayed / m_displayScale;
 }
 
 void FloatPropertyEditor::sliderChanged(int)

@@ -29,8 +29,7 @@ TextPropertyEditor::~TextPropertyEditor() = default;
 
 void TextPropertyEditor::setValue(const QVariant &value)
 {
-    if (m_textEdit)
-        setQuietly(m_textEdit, &QPlainTextEdit::setPlainText, value.toString());
+    setQuietly(m_textEdit, &QPlainTextEdit::setPlainText, value.toString());
 }
 
 QVariant TextPropertyEditor::value() const

@@ -13,7 +13,8 @@ inline Tessark::PropertyUI::PropertyEditorRegistry::Factory factoryOf(const QStr
     return Tessark::PropertyUI::PropertyEditorRegistry::Instance()->factory(&property);
 }
 
-/// A type string that the library registers an editor for, and the class of that editor.
+/// A type string that the library registers an editor for, and the class of that editor's meta-object:
+/// the vector editors share their base's.
 struct LibraryEditor
 {
     QString type;
@@ -36,9 +37,9 @@ inline QVector<LibraryEditor> libraryEditors()
         {kPropertyTypeText, "Tessark::PropertyUI::TextPropertyEditor"},
         {kPropertyTypeEnumeration, "Tessark::PropertyUI::EnumerationPropertyEditor"},
         {kPropertyTypeSeparator, "Tessark::PropertyUI::SeparatorPropertyEditor"},
-        {kPropertyTypeVec2, "Tessark::PropertyUI::Vec2PropertyEditor"},
-        {kPropertyTypeVec3, "Tessark::PropertyUI::Vec3PropertyEditor"},
-        {kPropertyTypeVec4, "Tessark::PropertyUI::Vec4PropertyEditor"},
+        {kPropertyTypeVec2, "Tessark::PropertyUI::VecPropertyEditor"},
+        {kPropertyTypeVec3, "Tessark::PropertyUI::VecPropertyEditor"},
+        {kPropertyTypeVec4, "Tessark::PropertyUI::VecPropertyEditor"},
         {kPropertyTypeSize, "Tessark::PropertyUI::SizePropertyEditor"},
         {kPropertyTypeBeginGroup, "Tessark::PropertyUI::GroupPropertyEditor"},
         {kPropertyTypeEndGroup, "Tessark::PropertyUI::GroupPropertyEditor"},

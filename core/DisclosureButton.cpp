@@ -21,10 +21,9 @@ constexpr double kTriangleShare = 0.5; // side of the triangle by side of the bu
 constexpr double kPlateRadius = 3;
 
 /// Opacities of the plate, which is a veil of the text colour: visible on every background.
-constexpr double kPlateAtRest = 0.08;
-constexpr double kPlateHovered = 0.16;
-constexpr double kPlatePressed = 0.28;
-constexpr double kPlateOutline = 0.35;
+constexpr double kPlateAtRest = 0.12;
+constexpr double kPlateHovered = 0.20;
+constexpr double kPlatePressed = 0.32;
 
 /// An equilateral triangle in the middle of the rectangle. Real numbers keep the middle of an odd
 /// number of pixels on half a pixel.
@@ -63,14 +62,16 @@ double plateOpacity(const QStyleOption &option)
 
 void drawPlate(QPainter *painter, const QStyleOption &option, const QColor &color, bool round)
 {
-    const QColor outline = isFocusedByKey(option) ? option.palette.color(QPalette::Highlight)
-                                                  : faded(color, kPlateOutline);
-    const QRectF rect = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter->setPen(outline);
+    QRectF rect = option.rect;
+    painter->setPen(Qt::NoPen);
+    if (isFocusedByKey(option)) {
+        painter->setPen(option.palette.color(QPalette::Highlight));
+        rect.adjust(0.5, 0.5, -0.5, -0.5);
+    }
     painter->setBrush(faded(color, plateOpacity(option)));
     if (round) {
-        const double diameter = qMin(rect.width(), rect.height());
-        painter->drawEllipse(rect.center(), diameter / 2, diameter / 2);
+        const double radius = qMin(rect.width(), rect.height()) / 2;
+        painter->drawEllipse(rect.center(), radius, radius);
     } else {
         painter->drawRoundedRect(rect, kPlateRadius, kPlateRadius);
     }

@@ -132,6 +132,10 @@ void LogSlider::setRealValue(double value)
     if (std::isnan(value))
         return;
     takeRealValue(value);
+    if (!m_unannounced) { // no signal is due after the move
+        moveToRealPosition();
+        return;
+    }
     const QPointer<LogSlider> self(this);
     moveToRealPosition();
     if (self)
@@ -165,8 +169,10 @@ void LogSlider::takeRealValue(double value)
         return;
     m_realValue = bounded;
     m_unannounced = !signalsBlocked();
-    QAccessibleValueChangeEvent event(this, m_realValue); // QAbstractSlider tells the position only
-    QAccessible::updateAccessibility(&event);
+    if (QAccessible::isActive()) { // QAbstractSlider tells the position only
+        QAccessibleValueChangeEvent event(this, m_realValue);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void LogSlider::moveToRealPosition()

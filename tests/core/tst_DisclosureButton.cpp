@@ -139,7 +139,7 @@ private Q_SLOTS:
     void setFlatRepaints();
 
     void iconsReplaceTheTriangle();
-    void disabledIcon();
+    void iconFollowsTheState();
 
     void sheetBackground_data();
     void sheetBackground();
@@ -211,7 +211,7 @@ void tst_DisclosureButton::hover()
 {
     showAndActivate();
     QWindow *const window = m_window->windowHandle();
-    QTest::mouseMove(window, m_other->geometry().center());
+    QTest::mouseMove(window, QPoint(0, 0));
     QTest::mouseMove(window, m_button->geometry().center());
     QTRY_VERIFY(m_button->underMouse());
 }
@@ -343,8 +343,7 @@ void tst_DisclosureButton::plateOnHover()
     hover();
 
     QVERIFY(pictureOf(m_button).pixelColor(2, 8) != QColor(Qt::white));
-    const QWindow *const window = m_window->windowHandle();
-    QTest::mouseMove(const_cast<QWindow *>(window), m_other->geometry().center());
+    QTest::mouseMove(m_window->windowHandle(), m_other->geometry().center());
     QTRY_VERIFY(!m_button->underMouse());
     QCOMPARE(pictureOf(m_button).pixelColor(2, 8), QColor(Qt::white));
 }
@@ -391,9 +390,9 @@ void tst_DisclosureButton::plateThatIsNotFlat()
     const QImage picture = pictureOf(m_button);
 
     QVERIFY(picture.pixelColor(2, 8) != QColor(Qt::white));
-    QVERIFY(picture.pixelColor(0, 8) != QColor(Qt::white)); // outline
-    QVERIFY(picture.pixelColor(3, 0) != QColor(Qt::white));
-    QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::white)); // rounded corner
+    QCOMPARE(picture.pixelColor(0, 8), picture.pixelColor(2, 8));
+    QCOMPARE(picture.pixelColor(3, 0), picture.pixelColor(2, 8));
+    QVERIFY(picture.pixelColor(0, 0).lightness() > 250); // rounded corner
 }
 
 void tst_DisclosureButton::roundPlate()
@@ -459,7 +458,7 @@ void tst_DisclosureButton::iconsReplaceTheTriangle()
     QCOMPARE(pictureOf(m_button).pixelColor(8, 8), QColor(Qt::black));
 }
 
-void tst_DisclosureButton::disabledIcon()
+void tst_DisclosureButton::iconFollowsTheState()
 {
     QPixmap green(16, 16);
     green.fill(kGreen);
@@ -472,12 +471,11 @@ void tst_DisclosureButton::disabledIcon()
     icon.addPixmap(red, QIcon::Active);
     m_button->setClosedIcon(icon);
 
-    m_button->setEnabled(false);
-    QCOMPARE(pictureOf(m_button).pixelColor(8, 8), kBlue);
-
-    m_button->setEnabled(true);
     hover();
     QCOMPARE(pictureOf(m_button).pixelColor(8, 8), kRed);
+
+    m_button->setEnabled(false);
+    QCOMPARE(pictureOf(m_button).pixelColor(8, 8), kBlue);
 }
 
 void tst_DisclosureButton::sheetBackground_data()

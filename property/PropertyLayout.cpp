@@ -101,8 +101,7 @@ void PropertyLayout::initialise(int spacing)
     m_verticalSpacing = spacing;
     m_horizontalSpacing = spacing;
     // These win over the constructor's margin on purpose.
-    QLayout::setContentsMargins(kContentsMargin, kContentsMargin, kContentsMargin,
-                                kContentsMargin);
+    QLayout::setContentsMargins(kContentsMargin, kContentsMargin, kContentsMargin, kContentsMargin);
 }
 
 PropertyLayout::~PropertyLayout()
@@ -257,8 +256,8 @@ QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
         total.fieldWidth = qint64(rect.width()) - total.labelWidth - margins.left()
                            - margins.right() - m_labelSpacing;
     }
-    total.spareHeight = qint64(rect.height()) - total.fixedHeight - margins.top()
-                        - margins.bottom() - m_verticalSpacing;
+    total.spareHeight = qint64(rect.height()) - total.fixedHeight - margins.top() - margins.bottom()
+                        - m_verticalSpacing;
 
     qint64 y = margins.top(); // not the rectangle's own top: see the class comment
     qint64 depth = 0;
@@ -377,8 +376,8 @@ void PropertyLayout::sizeWidth(Entry &entry, Row &row, qint64 &spareWidth) const
         entry.width = saturated(equalShare(spareWidth, row.expandCount));
         --row.expandCount;
     }
-    entry.width = bounded(entry.item->minimumSize().width(), entry.width,
-                              entry.item->maximumSize().width());
+    entry.width =
+        bounded(entry.item->minimumSize().width(), entry.width, entry.item->maximumSize().width());
     if (takesShare)
         spareWidth -= qint64(entry.width) + m_horizontalSpacing;
 }

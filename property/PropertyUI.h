@@ -8,3 +8,5 @@
 #include "property/PropertyEditorPanel.h"
 #include "property/PropertyEditorRegistry.h"
 #include "property/PropertyVocabulary.h"
+#include "property/TextureChoice.h"
+#include "property/ValueCodecs.h"

@@ -1,0 +1,170 @@
+#include "property/ValueCodecs.h"
+
+#include <QStringList>
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <initializer_list>
+
+namespace Tessark::PropertyUI {
+
+namespace {
+
+constexpr int kSignificantDigits = 6;
+constexpr int kMatrixSize = 3;
+
+// Known by name from the moment the library is loaded. "QMatrix3x3" is only an alias: Qt uses the
+// same name for its float matrix, so code tells the type by its C++ name.
+[[maybe_unused]] const bool s_valueTypesRegistered = [] {
+    qRegisterMetaType<TextureChoice>("Tessark::PropertyUI::TextureChoice");
+    qRegisterMetaType<DoubleMatrix3x3>("QMatrix3x3");
+    return true;
+}();
+
+QString joined(std::initializer_list<double> numbers)
+{
+    QStringList parts;
+    for (const double number : numbers)
+        parts.append(QString::number(number, 'g', kSignificantDigits));
+    return parts.join(QLatin1Char(' '));
+}
+
+/// Single precision on purpose, whatever the type read.
+float numberIn(const QString &part)
+{
+    bool ok = false;
+    const float number = part.toFloat(&ok);
+    return ok ? number : 0.0F; // an overflow gives infinity and false
+}
+
+QStringList partsOf(const QString &text)
+{
+    // Empty parts stay, so that doubled spaces change the number of parts.
+    return text.split(QLatin1Char(' '));
+}
+
+/// The numbers of a text of count parts, or the same one count times for a text of one part;
+/// otherwise zeros.
+template <std::size_t count>
+std::array<float, count> components(const QString &text)
+{
+    const QStringList parts = partsOf(text);
+    std::array<float, count> result{};
+    if (parts.size() == 1) {
+        result.fill(numberIn(parts.first()));
+    } else if (parts.size() == static_cast<int>(count)) {
+        for (std::size_t i = 0; i < count; ++i)
+            result[i] = numberIn(parts.at(static_cast<int>(i)));
+    }
+    return result;
+}
+
+/// A number outside 0..1 is left to QColor; it cannot convert a NaN, which counts as 0.
+float fractionIn(const QString &part)
+{
+    const float fraction = numberIn(part);
+    return std::isnan(fraction) ? 0.0F : fraction;
+}
+
+QColor colorOf(const QStringList &parts, float alpha)
+{
+    return QColor::fromRgbF(fractionIn(parts.at(0)), fractionIn(parts.at(1)),
+                            fractionIn(parts.at(2)), alpha);
+}
+
+} // namespace
+
+QString QPointF_toString(const QPointF &point)
+{
+    return joined({point.x(), point.y()});
+}
+
+QPointF QPointF_fromString(const QString &text)
+{
+    const auto [x, y] = components<2>(text);
+    return {x, y};
+}
+
+QString QVector2D_toString(const QVector2D &vector)
+{
+    return joined({vector.x(), vector.y()});
+}
+
+QVector2D QVector2D_fromString(const QString &text)
+{
+    const auto [x, y] = components<2>(text);
+    return {x, y};
+}
+
+QString QVector3D_toString(const QVector3D &vector)
+{
+    return joined({vector.x(), vector.y(), vector.z()});
+}
+
+QVector3D QVector3D_fromString(const QString &text)
+{
+    const auto [x, y, z] = components<3>(text);
+    return {x, y, z};
+}
+
+QString QVector4D_toString(const QVector4D &vector)
+{
+    return joined({vector.x(), vector.y(), vector.z(), vector.w()});
+}
+
+QVector4D QVector4D_fromString(const QString &text)
+{
+    const auto [x, y, z, w] = components<4>(text);
+    return {x, y, z, w};
+}
+
+QColor QColor_fromString(const QString &text)
+{
+    const QStringList parts = partsOf(text);
+    if (parts.size() == 4)
+        return colorOf(parts, fractionIn(parts.at(3)));
+    if (parts.size() == 3)
+        return colorOf(parts, 1.0F);
+    if (parts.size() == 1) {
+        bool isNumber = false;
+        parts.first().toFloat(&isNumber);
+        const float grey = fractionIn(parts.first());
+        if (isNumber) // its alpha is the same number, deliberately not opaque
+            return QColor::fromRgbF(grey, grey, grey, grey);
+    }
+    QColor color;
+    color.setNamedColor(text);
+    return color;
+}
+
+QString QMatrix3x3_toString(const QGenericMatrix<3, 3, double> &matrix)
+{
+    return joined({matrix(0, 0), matrix(0, 1), matrix(0, 2), matrix(1, 0), matrix(1, 1),
+                   matrix(1, 2), matrix(2, 0), matrix(2, 1), matrix(2, 2)});
+}
+
+QGenericMatrix<3, 3, double> QMatrix3x3_fromString(const QString &text)
+{
+    const QStringList parts = partsOf(text);
+    QGenericMatrix<3, 3, double> matrix; // the identity
+    if (parts.size() != kMatrixSize * kMatrixSize)
+        return matrix;
+    for (int i = 0; i < kMatrixSize * kMatrixSize; ++i)
+        matrix(i / kMatrixSize, i % kMatrixSize) = numberIn(parts.at(i));
+    return matrix;
+}
+
+QString TextureChoice_toString(const TextureChoice &choice)
+{
+    return choice.name;
+}
+
+TextureChoice TextureChoice_fromString(const QString &text)
+{
+    TextureChoice choice;
+    choice.name = text;
+    return choice;
+}
+
+} // namespace Tessark::PropertyUI

@@ -4,6 +4,25 @@
 
 namespace Tessark::PropertyHost {
 
+namespace {
+
+/// The text with control characters spelled out, so that a key from a file can neither break the
+/// line nor command a terminal.
+QString printable(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar letter : text) {
+        if (letter.category() == QChar::Other_Control)
+            result += QStringLiteral("\\u%1").arg(letter.unicode(), 4, 16, QLatin1Char('0'));
+        else
+            result += letter;
+    }
+    return result;
+}
+
+} // namespace
+
 QString Problem::toString(const QString &fileName) const
 {
     QString text = fileName;
@@ -13,8 +32,8 @@ QString Problem::toString(const QString &fileName) const
         text += QLatin1Char(':') + QString::number(column);
     text += severity == Severity::Error ? QLatin1String(": error: ") : QLatin1String(": warning: ");
     if (!pointer.isEmpty())
-        text += pointer + QLatin1String(": ");
-    return text + message;
+        text += printable(pointer) + QLatin1String(": ");
+    return text + printable(message);
 }
 
 bool hasErrors(const QVector<Problem> &problems)

@@ -18,6 +18,7 @@ class Property;
 
 namespace Tessark::PropertyHost {
 
+class ProblemCollector;
 class PropertyList;
 
 /**
@@ -64,6 +65,9 @@ Q_SIGNALS:
     void valueChanged(PropertyUI::Property *property, const QVariant &value, bool continued);
 
 private:
+    void readValue(const PropertyUI::Property &property, const QJsonValue &json,
+                   ProblemCollector &problems);
+
     QHash<QString, QVariant> m_values;
     QJsonObject m_unknownValues; // of names that the list did not have
 };

@@ -108,6 +108,7 @@ void addPicture(RenderedPictures &pictures, QWidget &sheet, const QString &path)
 {
     if (!pictures.error.isEmpty())
         return;
+    QCoreApplication::sendPostedEvents(); // what a page that was turned to puts off, such as layout
     pictures.error = writePicture(sheet, path);
     if (pictures.error.isEmpty())
         pictures.files.append(path);

@@ -99,11 +99,13 @@ bool PanelWindow::hasUnsavedChanges() const
 
 QSize PanelWindow::sizeHint() const
 {
-    const QSize chrome = layout()->sizeHint() - m_scrollArea->sizeHint();
+    const QSize panel = m_panel->sizeHint().expandedTo(m_panel->minimumSize());
+    const QSize whole = layout()->sizeHint();
     const int scrollBar = m_scrollArea->verticalScrollBar()->sizeHint().width();
-    const QSize wanted =
-        m_panel->sizeHint().expandedTo(m_panel->minimumSize()) + chrome + QSize(scrollBar, 0);
-    return wanted.expandedTo(kSmallestUsualSize)
+    const QSize wanted(panel.width() + scrollBar + 2 * kMargin,
+                       panel.height() + whole.height() - m_scrollArea->sizeHint().height());
+    return wanted.expandedTo(QSize(whole.width(), 0))
+        .expandedTo(kSmallestUsualSize)
         .boundedTo(screen()->availableSize() * kLargestShareOfScreen);
 }
 

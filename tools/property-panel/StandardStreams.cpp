@@ -33,6 +33,7 @@ void protectStandardStreams()
 {
 #if defined(Q_OS_UNIX)
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     // open() takes the lowest free number, so this fills 0, 1 and 2. Opened for reading only, a
     // stream that was closed goes on refusing output.
     int descriptor = 0;

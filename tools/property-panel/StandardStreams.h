@@ -8,9 +8,9 @@ namespace Tessark::PropertyPanel {
 /**
  * Makes writing to the standard streams safe; to be called first in main().
  *
- * Writing to a pipe without reader becomes an error instead of the end of the process, and a stream
- * that the caller closed refuses what is written to it, rather than that the next file opened takes
- * its place.
+ * Writing to a pipe without reader, or beyond the allowed size of a file, becomes an error instead
+ * of the end of the process, and a stream that the caller closed refuses what is written to it,
+ * rather than that the next file opened takes its place.
  */
 void protectStandardStreams();
 

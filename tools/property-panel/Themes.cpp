@@ -1,6 +1,6 @@
 #include "Themes.h"
 
-#include "DisclosureStyle.h"
+#include "PanelStyle.h"
 
 #include <core/KitColors.h>
 
@@ -95,11 +95,11 @@ QPalette themePalette(Theme theme)
 void applyTheme(Theme theme)
 {
     if (theme == Theme::System) {
-        QApplication::setStyle(new DisclosureStyle(nullptr));
+        QApplication::setStyle(new PanelStyle(nullptr));
         return;
     }
     const QPalette palette = themePalette(theme);
-    QApplication::setStyle(new DisclosureStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
+    QApplication::setStyle(new PanelStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
 }

@@ -1,4 +1,4 @@
-#include "DisclosureStyle.h"
+#include "PanelStyle.h"
 
 #include <QCheckBox>
 #include <QStyleOption>
@@ -7,6 +7,8 @@ namespace Tessark::PropertyPanel {
 
 namespace {
 
+constexpr float kLineOpacity = 0.3F;
+
 bool isDisclosure(const QWidget *widget)
 {
     return qobject_cast<const QCheckBox *>(widget) && widget->property("disclosure").toBool();
@@ -14,13 +16,28 @@ bool isDisclosure(const QWidget *widget)
 
 } // namespace
 
-DisclosureStyle::DisclosureStyle(QStyle *base)
+PanelStyle::PanelStyle(QStyle *base)
     : QProxyStyle(base)
 {
 }
 
-void DisclosureStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
-                                    QPainter *painter, const QWidget *widget) const
+void PanelStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                             const QWidget *widget) const
+{
+    const auto *const frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+    if (element != CE_ShapedFrame || !frame || frame->frameShape != QFrame::HLine) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionFrame soft(*frame);
+    QColor color = soft.palette.color(QPalette::WindowText);
+    color.setAlphaF(kLineOpacity);
+    soft.palette.setColor(QPalette::WindowText, color);
+    QProxyStyle::drawControl(element, &soft, painter, widget);
+}
+
+void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                               QPainter *painter, const QWidget *widget) const
 {
     if (element != PE_IndicatorCheckBox || !isDisclosure(widget)) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -32,7 +49,7 @@ void DisclosureStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
     QProxyStyle::drawPrimitive(open ? PE_IndicatorArrowDown : closed, option, painter, widget);
 }
 
-void DisclosureStyle::polish(QWidget *widget)
+void PanelStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
     // A font that the host or a hint has set for this very widget stays.

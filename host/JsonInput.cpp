@@ -85,15 +85,31 @@ Problem problemAt(const QByteArray &text, int offset, const QString &message)
     return problem;
 }
 
+/// True when the parser took for a number what does not even start like one; it then reports the
+/// place itself, and not the one behind it.
+bool isNoNumber(const QByteArray &text, const QJsonParseError &error)
+{
+    const QByteArray numberBytes("+-.0123456789eE");
+    return error.error == QJsonParseError::IllegalNumber
+           && (error.offset <= 0 || !numberBytes.contains(text.at(error.offset - 1)));
+}
+
 /// Offset of the character that the parser stumbled over. The parser reports where it would have
 /// gone on, which is one byte later, except for what follows a complete document.
 int offendingCharacter(const QByteArray &text, const QJsonParseError &error)
 {
-    const int back = error.error == QJsonParseError::GarbageAtEnd ? 0 : 1;
-    int offset = std::clamp(error.offset - back, 0, static_cast<int>(text.size()));
+    const bool isExact = error.error == QJsonParseError::GarbageAtEnd || isNoNumber(text, error);
+    int offset = std::clamp(error.offset - (isExact ? 0 : 1), 0, static_cast<int>(text.size()));
     while (offset > 0 && offset < text.size() && isContinuation(text.at(offset)))
         --offset;
     return offset;
+}
+
+Problem syntaxProblem(const QByteArray &text, const QJsonParseError &error)
+{
+    return problemAt(text, offendingCharacter(text, error),
+                     isNoNumber(text, error) ? QStringLiteral("illegal value")
+                                             : error.errorString());
 }
 
 } // namespace
@@ -117,7 +133,7 @@ std::optional<QJsonDocument> parseJson(const QByteArray &json, QVector<Problem> 
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {
-        problems.append(problemAt(text, offendingCharacter(text, error), error.errorString()));
+        problems.append(syntaxProblem(text, error));
         return std::nullopt;
     }
     return document;

@@ -27,6 +27,11 @@ void ProblemCollector::warning(const QString &pointer, const QString &message)
     add(Problem::Severity::Warning, pointer, message);
 }
 
+bool ProblemCollector::isFull() const
+{
+    return m_problems.size() >= kMaximumProblems;
+}
+
 QVector<Problem> ProblemCollector::take()
 {
     if (m_unlistedErrors > 0 || m_unlistedWarnings > 0) {
@@ -46,7 +51,7 @@ QVector<Problem> ProblemCollector::take()
 void ProblemCollector::add(Problem::Severity severity, const QString &pointer,
                            const QString &message)
 {
-    if (m_problems.size() >= kMaximumProblems) {
+    if (isFull()) {
         ++(severity == Problem::Severity::Error ? m_unlistedErrors : m_unlistedWarnings);
         return;
     }

@@ -24,6 +24,9 @@ public:
     void error(const QString &pointer, const QString &message);
     void warning(const QString &pointer, const QString &message);
 
+    /// True when further problems are only counted, so that their messages need no care.
+    bool isFull() const;
+
     /// Everything gathered; a last entry tells how many problems are not listed, if there are any.
     QVector<Problem> take();
 

@@ -75,6 +75,7 @@ private:
     void checkChoices(const Property &property, const QString &pointer);
     void checkKeys(const QJsonObject &object, const QStringList &known, const QString &pointer);
     void addError(const QString &pointer, const ConversionError &error);
+    QString suggest(const QString &text, const QStringList &candidates) const;
 
     PropertyList m_list;
     ProblemCollector m_problems;
@@ -228,7 +229,7 @@ void Reader::readHints(Property &property, const QJsonObject &row, const QString
         if (!vocabularyHints().contains(it.key())) {
             m_problems.warning(
                 hintPointer,
-                QStringLiteral("unknown hint%1").arg(suggestion(it.key(), vocabularyHints())));
+                QStringLiteral("unknown hint%1").arg(suggest(it.key(), vocabularyHints())));
         }
         ConversionError error;
         const auto value = hintFromJson(it.key(), it.value(), error);
@@ -327,7 +328,7 @@ void Reader::checkKeys(const QJsonObject &object, const QStringList &known, cons
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         if (!known.contains(it.key())) {
             m_problems.error(childPointer(pointer, it.key()),
-                             QStringLiteral("unknown key%1").arg(suggestion(it.key(), known)));
+                             QStringLiteral("unknown key%1").arg(suggest(it.key(), known)));
         }
     }
 }
@@ -335,6 +336,12 @@ void Reader::checkKeys(const QJsonObject &object, const QStringList &known, cons
 void Reader::addError(const QString &pointer, const ConversionError &error)
 {
     m_problems.error(pointer + error.path, error.message);
+}
+
+/// A suggestion for a message, unless nobody will see it: a document may hold a million slips.
+QString Reader::suggest(const QString &text, const QStringList &candidates) const
+{
+    return m_problems.isFull() ? QString() : suggestion(text, candidates);
 }
 
 } // namespace

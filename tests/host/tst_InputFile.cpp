@@ -135,9 +135,8 @@ void tst_InputFile::forbiddenFileIsTold()
     QVERIFY(!readInputFile(file, problems).has_value());
 
     QCOMPARE(problems.size(), 1);
-    const QString expected = geteuid() == 0
-        ? QStringLiteral("cannot be read: Input/output error")
-        : QStringLiteral("cannot be opened: Permission denied");
+    const QString expected = geteuid() == 0 ? QStringLiteral("cannot be read: Input/output error")
+                                            : QStringLiteral("cannot be opened: Permission denied");
     QCOMPARE(problems.first().message, expected);
 }
 

@@ -43,9 +43,8 @@ void tst_Problem::textNamesFileAndPlace_data()
         << QStringLiteral("list.json: error: /properties/3/min: bad");
     QTest::newRow("the whole file has neither")
         << makeProblem(Severity::Error, {}, 0, 0) << QStringLiteral("list.json: error: bad");
-    QTest::newRow("a warning says so")
-        << makeProblem(Severity::Warning, QStringLiteral("/a"), 0, 0)
-        << QStringLiteral("list.json: warning: /a: bad");
+    QTest::newRow("a warning says so") << makeProblem(Severity::Warning, QStringLiteral("/a"), 0, 0)
+                                       << QStringLiteral("list.json: warning: /a: bad");
     QTest::newRow("control characters are spelled out")
         << makeProblem(Severity::Error, QStringLiteral("/a\n\x1b[1m"), 0, 0)
         << QStringLiteral("list.json: error: /a\\u000a\\u001b[1m: bad");

@@ -1,7 +1,8 @@
 #include "host/UndoDelegate.h"
 
+#include "host/ValueKind_p.h"
+
 #include <property/Property.h>
-#include <property/PropertyVocabulary.h>
 
 #include <QUndoCommand>
 #include <QUndoStack>
@@ -14,17 +15,8 @@ constexpr int kCommandId = 0x50726f70; // one id for all, mergeWith() tells prop
 
 bool hasUndoableValue(const PropertyUI::Property &property)
 {
-    const QString *const others[] = {
-        &PropertyUI::kPropertyTypeAction,        &PropertyUI::kPropertyTypeSeparator,
-        &PropertyUI::kPropertyTypeBeginGroup,    &PropertyUI::kPropertyTypeEndGroup,
-        &PropertyUI::kPropertyTypeBeginTabGroup, &PropertyUI::kPropertyTypeTab,
-        &PropertyUI::kPropertyTypeEndTabGroup,
-    };
-    for (const QString *type : others) {
-        if (property.type == *type)
-            return false;
-    }
-    return true;
+    const TypeTraits traits = typeTraits(property.type);
+    return !traits.structural && traits.kind != ValueKind::None;
 }
 
 QString commandText(const PropertyUI::Property &property)

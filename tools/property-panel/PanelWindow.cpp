@@ -88,6 +88,8 @@ PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::P
 
 PanelWindow::~PanelWindow()
 {
+    // The focus moves once more while the window goes, when there is nothing left to commit.
+    disconnect(qApp, nullptr, this, nullptr);
     // Before the delegate, which the panel may still call.
     delete m_scrollArea->takeWidget();
 }
@@ -192,11 +194,11 @@ QBoxLayout *PanelWindow::makeToolRow()
 {
     QAction *const undoAction =
         addUndoAction(m_stack->createUndoAction(this), tr("Undo"), QStringLiteral("edit-undo"));
-    undoAction->setShortcut(QKeySequence::Undo);
+    undoAction->setShortcuts(QKeySequence::Undo);
     connect(undoAction, &QAction::triggered, this, &PanelWindow::undo);
     QAction *const redoAction =
         addUndoAction(m_stack->createRedoAction(this), tr("Redo"), QStringLiteral("edit-redo"));
-    redoAction->setShortcut(QKeySequence::Redo);
+    redoAction->setShortcuts(QKeySequence::Redo);
     connect(redoAction, &QAction::triggered, this, &PanelWindow::redo);
 
     auto *const row = new QHBoxLayout;
@@ -215,7 +217,7 @@ QDialogButtonBox *PanelWindow::makeButtons()
     connect(reset, &QPushButton::clicked, this, &PanelWindow::resetAll);
 
     auto *const saveAction = new QAction(tr("Save"), this);
-    saveAction->setShortcut(QKeySequence::Save);
+    saveAction->setShortcuts(QKeySequence::Save);
     connect(saveAction, &QAction::triggered, this, &PanelWindow::save);
     addAction(saveAction);
     return buttons;

@@ -1,3 +1,4 @@
+#include <host/PropertyList.h>
 #include <host/PropertyStore.h>
 #include <property/Property.h>
 #include <tools/property-panel/LivePrinter.h>
@@ -10,6 +11,7 @@
 #include <unistd.h>
 
 using namespace Tessark::PropertyUI;
+using Tessark::PropertyHost::PropertyList;
 using Tessark::PropertyHost::PropertyStore;
 using Tessark::PropertyPanel::LivePrinter;
 
@@ -62,10 +64,11 @@ private Q_SLOTS:
     void changeIsOneLine();
     void lineIsThereAtOnce();
     void continuedChangesAreMarked();
+    void unchangedValueIsNotPrinted();
+    void actionIsPrintedEachTimeAsNull();
     void lineBreaksAreEscaped();
     void foldingAndTurningPagesAreNoChanges_data();
     void foldingAndTurningPagesAreNoChanges();
-    void actionPrintsNull();
 
 private:
     Property m_title{QStringLiteral("title"), QStringLiteral("Title"), kPropertyTypeString};
@@ -74,7 +77,7 @@ private:
 void tst_LivePrinter::changeIsOneLine()
 {
     PropertyStore store;
-    const LivePrinter printer(&store);
+    const LivePrinter printer({}, &store);
     Capture output;
 
     store.setValue(&m_title, QStringLiteral("a"), PropertyStore::NewChange);
@@ -86,7 +89,7 @@ void tst_LivePrinter::changeIsOneLine()
 void tst_LivePrinter::lineIsThereAtOnce()
 {
     PropertyStore store;
-    const LivePrinter printer(&store);
+    const LivePrinter printer({}, &store);
     int descriptors[2];
     QCOMPARE(pipe(descriptors), 0);
     const int before = dup(STDOUT_FILENO);
@@ -106,7 +109,7 @@ void tst_LivePrinter::lineIsThereAtOnce()
 void tst_LivePrinter::continuedChangesAreMarked()
 {
     PropertyStore store;
-    const LivePrinter printer(&store);
+    const LivePrinter printer({}, &store);
     Property gain(QStringLiteral("gain"), QStringLiteral("Gain"), kPropertyTypeFloat);
     Capture output;
 
@@ -117,10 +120,41 @@ void tst_LivePrinter::continuedChangesAreMarked()
                                        "{\"continued\":true,\"name\":\"gain\",\"value\":0.75}\n"));
 }
 
+void tst_LivePrinter::unchangedValueIsNotPrinted()
+{
+    PropertyList list;
+    Property &title = list.append(m_title).setDefaultValue(QStringLiteral("a"));
+    PropertyStore store;
+    store.reset(list);
+    const LivePrinter printer(list, &store);
+    Capture output;
+
+    for (const char *text : {"a", "b", "b", "a"})
+        store.setValue(&title, QString::fromLatin1(text), PropertyStore::NewChange);
+
+    QCOMPARE(output.text(),
+             QByteArray("{\"continued\":false,\"name\":\"title\",\"value\":\"b\"}\n"
+                        "{\"continued\":false,\"name\":\"title\",\"value\":\"a\"}\n"));
+}
+
+void tst_LivePrinter::actionIsPrintedEachTimeAsNull()
+{
+    PropertyStore store;
+    const LivePrinter printer({}, &store);
+    Property property(QStringLiteral("go"), QStringLiteral("Go"), kPropertyTypeAction);
+    Capture output;
+
+    for (int i = 0; i < 2; ++i)
+        store.setValue(&property, QVariant(), PropertyStore::NewChange);
+
+    QCOMPARE(output.text(), QByteArray("{\"continued\":false,\"name\":\"go\",\"value\":null}\n"
+                                       "{\"continued\":false,\"name\":\"go\",\"value\":null}\n"));
+}
+
 void tst_LivePrinter::lineBreaksAreEscaped()
 {
     PropertyStore store;
-    const LivePrinter printer(&store);
+    const LivePrinter printer({}, &store);
     Capture output;
 
     store.setValue(&m_title, QStringLiteral("two\nlines"), PropertyStore::NewChange);
@@ -145,25 +179,13 @@ void tst_LivePrinter::foldingAndTurningPagesAreNoChanges()
     QFETCH(QString, type);
     QFETCH(QVariant, value);
     PropertyStore store;
-    const LivePrinter printer(&store);
+    const LivePrinter printer({}, &store);
     Property property(QStringLiteral("marker"), QStringLiteral("Marker"), type);
     Capture output;
 
     store.setValue(&property, value, PropertyStore::NewChange);
 
     QCOMPARE(output.text(), QByteArray());
-}
-
-void tst_LivePrinter::actionPrintsNull()
-{
-    PropertyStore store;
-    const LivePrinter printer(&store);
-    Property property(QStringLiteral("go"), QStringLiteral("Go"), kPropertyTypeAction);
-    Capture output;
-
-    store.setValue(&property, QVariant(), PropertyStore::NewChange);
-
-    QCOMPARE(output.text(), QByteArray("{\"continued\":false,\"name\":\"go\",\"value\":null}\n"));
 }
 
 QTEST_GUILESS_MAIN(tst_LivePrinter)

@@ -3,6 +3,7 @@
 #include <property/PropertyUI.h>
 #include <tools/property-panel/PanelWindow.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>

@@ -2,6 +2,7 @@
 
 #include "StandardStreams.h"
 
+#include <host/PropertyList.h>
 #include <host/PropertyStore.h>
 #include <host/ValueJson.h>
 #include <property/Property.h>
@@ -22,9 +23,14 @@ bool isStructural(const PropertyUI::Property &property)
 
 } // namespace
 
-LivePrinter::LivePrinter(PropertyHost::PropertyStore *store, QObject *parent)
+LivePrinter::LivePrinter(const PropertyHost::PropertyList &list, PropertyHost::PropertyStore *store,
+                         QObject *parent)
     : QObject(parent)
 {
+    const auto properties = list.properties();
+    for (PropertyUI::Property *property : properties)
+        m_known.insert(property->name,
+                       PropertyHost::valueToJson(*property, store->value(property)));
     connect(store, &PropertyHost::PropertyStore::valueChanged, this,
             [this](PropertyUI::Property *property, const QVariant &value, bool continued) {
                 print(*property, value, continued);
@@ -36,6 +42,9 @@ void LivePrinter::print(const PropertyUI::Property &property, const QVariant &va
     if (m_outputFailed || isStructural(property))
         return;
     const QJsonValue json = PropertyHost::valueToJson(property, value);
+    if (!json.isUndefined() && m_known.value(property.name, QJsonValue::Undefined) == json)
+        return;
+    m_known.insert(property.name, json);
     const QJsonObject line{
         {QStringLiteral("name"), property.name},
         {QStringLiteral("value"), json.isUndefined() ? QJsonValue() : json},

@@ -88,8 +88,9 @@ PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::P
 
 PanelWindow::~PanelWindow()
 {
-    // The focus moves once more while the window goes, when there is nothing left to commit.
+    // While the window goes, the focus moves once more and the stack, a child, becomes empty.
     disconnect(qApp, nullptr, this, nullptr);
+    disconnect(m_stack, nullptr, this, nullptr);
     // Before the delegate, which the panel may still call.
     delete m_scrollArea->takeWidget();
 }

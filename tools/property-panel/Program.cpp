@@ -50,7 +50,7 @@ ExitStatus edit(const Input &input, const Options &options)
                                                             ? ValuesWriter::Layout::OneLine
                                                             : ValuesWriter::Layout::Indented));
     if (options.live)
-        new LivePrinter(input.store.get(), &window);
+        new LivePrinter(input.list, input.store.get(), &window);
     // The window says how it ended; that it was the last one says nothing.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&window, &PanelWindow::finished, qApp,

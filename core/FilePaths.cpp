@@ -35,7 +35,7 @@ QString nearestDirectory(QString path)
 
 QString usablePath(const QUrl &url, PathKind kind)
 {
-    const QString path = url.isLocalFile() ? url.toLocalFile() : QString();
+    QString path = url.isLocalFile() ? url.toLocalFile() : QString();
     if (!isPossible(path) || kind == PathKind::AnyFile)
         return path;
     const QFileInfo info(path);
@@ -82,7 +82,7 @@ DialogStart dialogStart(const QString &name, const QString &baseDirectory)
 QString firstUsablePath(const QList<QUrl> &urls, PathKind kind)
 {
     for (const QUrl &url : urls) {
-        const QString path = usablePath(url, kind);
+        QString path = usablePath(url, kind);
         if (!path.isEmpty())
             return path;
     }

@@ -22,7 +22,7 @@ using HintReader = std::optional<QVariant> (*)(const QJsonValue &json, Conversio
 struct NamedNumber
 {
     QLatin1String name;
-    int number;
+    int number = 0;
 };
 
 const NamedNumber kAlignments[] = {

@@ -165,7 +165,7 @@ std::optional<QString> Reader::readText(const QJsonObject &object, const QString
     if (json.isUndefined())
         return std::nullopt;
     ConversionError error;
-    const auto text = textFromJson(json, error);
+    auto text = textFromJson(json, error);
     if (!text)
         addError(childPointer(pointer, key), error);
     return text;
@@ -184,7 +184,7 @@ std::optional<QString> Reader::readName(const QJsonObject &row, const QString &p
 {
     if (!row.contains(kKeyName) && !isStructural)
         m_problems.error(pointer, QStringLiteral("\"name\" is missing"));
-    const auto name = readText(row, pointer, kKeyName);
+    auto name = readText(row, pointer, kKeyName);
     if (!name)
         return std::nullopt;
     if (name->isEmpty()) {

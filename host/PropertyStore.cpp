@@ -7,7 +7,7 @@
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
-#include <property/Property.h>
+#include <QMap>
 
 namespace Tessark::PropertyHost {
 
@@ -15,10 +15,10 @@ using namespace PropertyUI;
 
 namespace {
 
-/// The properties with a value, by name.
-QHash<QString, Property *> valuedProperties(const PropertyList &list)
+/// The properties with a value, sorted by name as the keys of a JSON object are.
+QMap<QString, Property *> valuedProperties(const PropertyList &list)
 {
-    QHash<QString, Property *> result;
+    QMap<QString, Property *> result;
     for (Property *property : list.properties()) {
         if (carriesValue(property->type))
             result.insert(property->name, property);
@@ -31,6 +31,8 @@ QHash<QString, Property *> valuedProperties(const PropertyList &list)
 PropertyStore::PropertyStore(QObject *parent)
     : QObject(parent)
 {
+    // Signal spies and queued connections look the parameter of valueChanged() up by this name.
+    qRegisterMetaType<Property *>("Tessark::PropertyUI::Property*");
 }
 
 PropertyStore::~PropertyStore() = default;
@@ -70,7 +72,7 @@ QVector<Problem> PropertyStore::readValues(const QByteArray &json, const Propert
         return collector.take();
     }
     const QJsonObject values = document->object();
-    const QHash<QString, Property *> properties = valuedProperties(list);
+    const QMap<QString, Property *> properties = valuedProperties(list);
     m_unknownValues = {};
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
         const Property *const property = properties.value(it.key());

@@ -3,18 +3,16 @@
 #include "host/Problem.h"
 
 #include <property/IPropertyEditorDelegate.h>
+#include <property/Property.h>
 
 #include <QByteArray>
 #include <QHash>
 #include <QJsonObject>
+#include <QMetaType>
 #include <QObject>
 #include <QString>
 #include <QVariant>
 #include <QVector>
-
-namespace Tessark::PropertyUI {
-class Property;
-}
 
 namespace Tessark::PropertyHost {
 
@@ -56,13 +54,15 @@ public:
     QVector<Problem> readValues(const QByteArray &json, const PropertyList &list);
 
     /// The values of the list's properties, and those that readValues() kept for unknown names.
-    /// A property whose value has no JSON form is absent.
+    /// A property whose value has no JSON form is absent. With Qt 5, whose JSON knows doubles only,
+    /// a kept whole number beyond 2 to the power of 53 is rounded.
     QJsonObject toJson(const PropertyList &list) const;
 
 Q_SIGNALS:
     /// A panel, or another caller of setValue(), set a value. continued says that it goes on with
     /// the change before it. The value is invalid when an action was triggered.
-    void valueChanged(PropertyUI::Property *property, const QVariant &value, bool continued);
+    void valueChanged(Tessark::PropertyUI::Property *property, const QVariant &value,
+                      bool continued);
 
 private:
     void readValue(const PropertyUI::Property &property, const QJsonValue &json,
@@ -73,3 +73,5 @@ private:
 };
 
 } // namespace Tessark::PropertyHost
+
+Q_DECLARE_METATYPE(Tessark::PropertyUI::Property *)

@@ -387,7 +387,7 @@ std::optional<QVariant> valueFromJson(const Property &property, const QJsonValue
                                       QString &error)
 {
     ConversionError reason;
-    const auto value = convertValue(property, json, reason);
+    auto value = convertValue(property, json, reason);
     if (!value) {
         error = reason.path.isEmpty() ? reason.message
                                       : reason.path + QLatin1String(": ") + reason.message;

@@ -5,35 +5,28 @@
 
 using namespace Tessark::PropertyUI;
 
-class Store : public IPropertyEditorDelegate
+// Holds the values; the panel asks for them and hands back every edit.
+struct Store : IPropertyEditorDelegate
 {
-public:
     void setValue(Property *property, const QVariant &value, ChangeFlags) override
     {
-        m_values[property->name] = value;
-        qInfo() << property->name << "=" << value;
+        values[property->name] = value;
+        qInfo() << property->name << "is now" << value;
     }
-
-    QVariant value(Property *property) override
-    {
-        return m_values.value(property->name, property->defaultValue);
-    }
-
-private:
-    QMap<QString, QVariant> m_values;
+    QVariant value(Property *property) override { return values.value(property->name); }
+    QMap<QString, QVariant> values{{"title", "Untitled"}, {"loop", true}, {"notes", "Draft"}};
 };
 
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    Property title(QStringLiteral("title"), QStringLiteral("Title"), kPropertyTypeString);
-    title.setDefaultValue(QStringLiteral("Untitled"));
-    Property loop(QStringLiteral("loop"), QStringLiteral("Loop"), kPropertyTypeBoolean);
-    loop.setDefaultValue(true).setHint(kPropertyHintBoolHideLabel, true);
-
+    Property title("title", "Title", kPropertyTypeString);
+    Property loop("loop", "Play in a loop", kPropertyTypeBoolean);
+    Property notes("notes", "Notes", kPropertyTypeString);
+    title.setDefaultValue("Untitled"); // a right click on the row offers "Set to Default"
     Store store;
-    PropertyEditorPanel panel({&title, &loop}, &store, nullptr);
-    panel.updateUI();
+    PropertyEditorPanel panel({&title, &loop, &notes}, &store, nullptr);
+    panel.updateUI(); // shows the store's values
     panel.show();
     return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include "property/PropertyVocabulary.h"
 #include "property/editors/ActionPropertyEditor.h"
 #include "property/editors/BooleanPropertyEditor.h"
+#include "property/editors/FilenamePropertyEditor.h"
 #include "property/editors/GroupPropertyEditor.h"
 #include "property/editors/SeparatorPropertyEditor.h"
 #include "property/editors/StaticTextPropertyEditor.h"
@@ -36,6 +37,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeBeginTabGroup, TabPropertyEditor::Factory},
         {kPropertyTypeEndTabGroup, TabPropertyEditor::Factory},
         {kPropertyTypeTab, TabPropertyEditor::Factory},
+        {kPropertyTypeFilename, FilenamePropertyEditor::Factory},
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
     };
     for (const Registration &registration : registrations) {

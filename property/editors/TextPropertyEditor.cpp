@@ -4,7 +4,6 @@
 
 #include <QFont>
 #include <QPlainTextEdit>
-#include <QTextCursor>
 #include <QTextDocument>
 
 namespace Tessark::PropertyUI {
@@ -48,14 +47,7 @@ QWidget *TextPropertyEditor::widget(PropertyEditorContext *)
         m_textEdit->setMinimumHeight(kMinimumHeight);
         QFont font(QStringLiteral("monospace"), kPointSize);
         font.setFixedPitch(true);
-
-        QTextCursor cursor = m_textEdit->textCursor();
-        cursor.select(QTextCursor::Document);
-        m_textEdit->setTextCursor(cursor);
-        cursor.clearSelection();
-        m_textEdit->setTextCursor(cursor);
-        m_textEdit->document()->setDefaultFont(font);
-        m_textEdit->setFont(font);
+        m_textEdit->setFont(font); // becomes the document's default font as well
     }
     return m_widget;
 }

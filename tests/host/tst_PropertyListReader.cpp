@@ -1,3 +1,4 @@
+#include <host/InputFile.h>
 #include <host/PropertyListReader.h>
 
 #include <property/PropertyUI.h>
@@ -65,6 +66,127 @@ QByteArray listOfSize(int count)
     }
     rows.chop(1);
     return documentOf(rows);
+}
+
+void addProblemRow(const char *name, const char *rows, const char *problem)
+{
+    QTest::newRow(name) << QByteArray(rows) << QString::fromUtf8(problem);
+}
+
+void addRowsOnKeys()
+{
+    addProblemRow("no type", R"({"name": "a"})", R"(0: "type" is missing)");
+    addProblemRow("type that is no text", R"({"name": "a", "type": 1})",
+                  "0/type: expected a string, found a number");
+    addProblemRow("no name", R"({"type": "bool"})", R"(0: "name" is missing)");
+    addProblemRow("empty name", R"({"name": "", "type": "bool"})", "0/name: the name is empty");
+    addProblemRow("name that is no text", R"({"name": true, "type": "bool"})",
+                  "0/name: expected a string, found a boolean");
+    addProblemRow("name used twice",
+                  R"({"name": "a", "type": "bool"}, {"name": "a", "type": "text"})",
+                  R"(1/name: the name "a" is taken by a row before)");
+    addProblemRow("label that is no text", R"({"name": "a", "type": "bool", "label": null})",
+                  "0/label: expected a string, found null");
+    addProblemRow("unknown key", R"({"name": "a", "type": "bool", "defualt": true})",
+                  R"(0/defualt: unknown key (did you mean "default"?))");
+    addProblemRow("key in wrong case", R"({"name": "a", "type": "float", "max": 1, "hardmax": 2})",
+                  R"(0/hardmax: unknown key (did you mean "hardMax"?))");
+    addProblemRow("hints that are no object", R"({"name": "a", "type": "bool", "hints": []})",
+                  "0/hints: expected an object, found an array");
+}
+
+void addRowsOnNumbersAndTexts()
+{
+    addProblemRow("bool as number", R"({"name": "a", "type": "bool", "default": 1})",
+                  "0/default: expected a boolean, found a number");
+    addProblemRow("text as number", R"({"name": "a", "type": "string", "default": 1})",
+                  "0/default: expected a string, found a number");
+    addProblemRow("default null", R"({"name": "a", "type": "string", "default": null})",
+                  "0/default: expected a string, found null");
+    addProblemRow("number as text", R"({"name": "a", "type": "float", "max": 1, "default": "1"})",
+                  "0/default: expected a number, found a string");
+    addProblemRow("bound as text", R"({"name": "a", "type": "float", "min": "0", "max": 1})",
+                  "0/min: expected a number, found a string");
+    addProblemRow("int with fraction", R"({"name": "a", "type": "int", "max": 9, "default": 1.5})",
+                  "0/default: expected a whole number, found 1.5");
+    addProblemRow("int too large", R"({"name": "a", "type": "int", "max": 2147483648})",
+                  "0/max: a whole number must lie between -2147483648 and 2147483647");
+    addProblemRow("int far too large", R"({"name": "a", "type": "int", "max": 1e300})",
+                  "0/max: a whole number must lie between -2147483648 and 2147483647");
+    addProblemRow("min above max", R"({"name": "a", "type": "int", "min": 10, "max": 5})",
+                  R"(0/min: 10 is above "max", which is 5)");
+    addProblemRow("max above hard max",
+                  R"({"name": "a", "type": "float", "max": 5, "hardMax": 4.5})",
+                  R"(0/max: 5 is above "hardMax", which is 4.5)");
+    addProblemRow("one component of min above max",
+                  R"({"name": "a", "type": "vec3", "min": [0, 9, 0], "max": "1 2 3"})",
+                  R"(0/min: (0 9 0) is above "max", which is (1 2 3))");
+}
+
+void addRowsOnCompositeValues()
+{
+    addProblemRow("vector of wrong length",
+                  R"({"name": "a", "type": "vec2", "max": 1, "default": [1, 2, 3]})",
+                  "0/default: expected 2 numbers, found an array of 3");
+    addProblemRow("vector with text inside",
+                  R"({"name": "a", "type": "vec2", "max": 1, "default": [1, "2"]})",
+                  "0/default/1: expected a number, found a string");
+    addProblemRow("vector text of wrong length",
+                  R"({"name": "a", "type": "vec3", "max": 1, "default": "1 2"})",
+                  R"(0/default: expected 3 numbers with single spaces between, found "1 2")");
+    addProblemRow("vector text with two spaces",
+                  R"({"name": "a", "type": "vec2", "max": 1, "default": "1  2"})",
+                  R"(0/default: expected 2 numbers with single spaces between, found "1  2")");
+    addProblemRow("vector text with a word",
+                  R"({"name": "a", "type": "vec2", "max": 1, "default": "1 x"})",
+                  R"(0/default: "x" in "1 x" is not a number)");
+    addProblemRow("vector text out of range",
+                  R"({"name": "a", "type": "vec2", "max": 1, "default": "1 1e99"})",
+                  R"(0/default: "1e99" in "1 1e99" is not a number)");
+    addProblemRow("vector number out of range",
+                  R"({"name": "a", "type": "vec2", "max": 1, "default": 1e99})",
+                  "0/default: a vector component is too large for single precision");
+    addProblemRow("vector as object",
+                  R"({"name": "a", "type": "vec2", "max": 1, "default": {"x": 1}})",
+                  "0/default: expected 2 numbers, found an object");
+    addProblemRow("unknown colour", R"({"name": "a", "type": "vec4/color", "default": "rad"})",
+                  R"(0/default: "rad" is not a colour)");
+    addProblemRow("colour name of three words",
+                  R"({"name": "a", "type": "vec4/color", "default": "light sea green"})",
+                  R"(0/default: "light" in "light sea green" is not a number)");
+    addProblemRow("colour as number", R"({"name": "a", "type": "vec4/color", "default": 1})",
+                  "0/default: expected a colour as text or array of fractions, found a number");
+    addProblemRow("colour in steps of 255",
+                  R"({"name": "a", "type": "vec4/color", "default": [0, 255, 0]})",
+                  "0/default/1: a colour component must lie between 0 and 1");
+    addProblemRow("colour text in steps of 255",
+                  R"({"name": "a", "type": "vec4/color", "default": "0 255 0"})",
+                  "0/default: a colour component must lie between 0 and 1");
+    addProblemRow("colour of two", R"({"name": "a", "type": "vec4/color", "default": [0, 1]})",
+                  "0/default: expected 3 or 4 fractions, found an array of 2");
+    addProblemRow("size as number", R"({"name": "a", "type": "ivec2/size", "default": 12})",
+                  "0/default: expected [width, height], found a number");
+    addProblemRow("size with fraction",
+                  R"({"name": "a", "type": "ivec2/size", "default": [1, 2.5]})",
+                  "0/default/1: expected a whole number, found 2.5");
+    addProblemRow(
+        "matrix of eight", R"({"name": "a", "type": "transform2D", "default": "1 0 0 0 1 0 0 0"})",
+        R"(0/default: expected 9 numbers with single spaces between, found "1 0 0 0 1 0 0 0")");
+    addProblemRow(
+        "choice behind the end",
+        R"({"name": "a", "type": "int/enum", "hints": {"display_values": ["x"]}, "default": 1})",
+        "0/default: there is no choice 1, the list has 1");
+    addProblemRow("value of no choice",
+                  R"({"name": "a", "type": "int/enum", "default": "1",
+            "hints": {"display_values": ["x"], "values": [1]}})",
+                  R"(0/default: "1" is not one of the "values")");
+    addProblemRow("default of an action", R"({"type": "action", "default": 1})",
+                  R"(0/default: a property of type "action" has no value)");
+    addProblemRow("default of a texture", R"({"name": "a", "type": "texture", "default": "wood"})",
+                  R"(0/default: a value of type "texture" has no JSON form yet)");
+    addProblemRow("default null of an own type",
+                  R"({"name": "a", "type": "host/own", "default": null})",
+                  "0/default: expected a value, found null");
 }
 
 } // namespace
@@ -245,103 +367,9 @@ void tst_PropertyListReader::problemsOfRows_data()
 {
     QTest::addColumn<QByteArray>("rows");
     QTest::addColumn<QString>("problem"); // behind "f: error: /properties/"
-    const auto row = [](const char *name, const char *rows, const char *problem) {
-        QTest::newRow(name) << QByteArray(rows) << QString::fromUtf8(problem);
-    };
-    row("no type", R"({"name": "a"})", R"(0: "type" is missing)");
-    row("type that is no text", R"({"name": "a", "type": 1})",
-        "0/type: expected a string, found a number");
-    row("no name", R"({"type": "bool"})", R"(0: "name" is missing)");
-    row("empty name", R"({"name": "", "type": "bool"})", "0/name: the name is empty");
-    row("name that is no text", R"({"name": true, "type": "bool"})",
-        "0/name: expected a string, found a boolean");
-    row("name used twice", R"({"name": "a", "type": "bool"}, {"name": "a", "type": "text"})",
-        R"(1/name: the name "a" is taken by a row before)");
-    row("label that is no text", R"({"name": "a", "type": "bool", "label": null})",
-        "0/label: expected a string, found null");
-    row("unknown key", R"({"name": "a", "type": "bool", "defualt": true})",
-        R"(0/defualt: unknown key (did you mean "default"?))");
-    row("key in wrong case", R"({"name": "a", "type": "float", "max": 1, "hardmax": 2})",
-        R"(0/hardmax: unknown key (did you mean "hardMax"?))");
-    row("hints that are no object", R"({"name": "a", "type": "bool", "hints": []})",
-        "0/hints: expected an object, found an array");
-    row("bool as number", R"({"name": "a", "type": "bool", "default": 1})",
-        "0/default: expected a boolean, found a number");
-    row("text as number", R"({"name": "a", "type": "string", "default": 1})",
-        "0/default: expected a string, found a number");
-    row("default null", R"({"name": "a", "type": "string", "default": null})",
-        "0/default: expected a string, found null");
-    row("number as text", R"({"name": "a", "type": "float", "max": 1, "default": "1"})",
-        "0/default: expected a number, found a string");
-    row("bound as text", R"({"name": "a", "type": "float", "min": "0", "max": 1})",
-        "0/min: expected a number, found a string");
-    row("int with fraction", R"({"name": "a", "type": "int", "max": 9, "default": 1.5})",
-        "0/default: expected a whole number, found 1.5");
-    row("int too large", R"({"name": "a", "type": "int", "max": 2147483648})",
-        "0/max: a whole number must lie between -2147483648 and 2147483647");
-    row("int far too large", R"({"name": "a", "type": "int", "max": 1e300})",
-        "0/max: a whole number must lie between -2147483648 and 2147483647");
-    row("min above max", R"({"name": "a", "type": "int", "min": 10, "max": 5})",
-        R"(0/min: 10 is above "max", which is 5)");
-    row("max above hard max", R"({"name": "a", "type": "float", "max": 5, "hardMax": 4.5})",
-        R"(0/max: 5 is above "hardMax", which is 4.5)");
-    row("one component of min above max",
-        R"({"name": "a", "type": "vec3", "min": [0, 9, 0], "max": "1 2 3"})",
-        R"(0/min: (0 9 0) is above "max", which is (1 2 3))");
-    row("vector of wrong length",
-        R"({"name": "a", "type": "vec2", "max": 1, "default": [1, 2, 3]})",
-        "0/default: expected 2 numbers, found an array of 3");
-    row("vector with text inside",
-        R"({"name": "a", "type": "vec2", "max": 1, "default": [1, "2"]})",
-        "0/default/1: expected a number, found a string");
-    row("vector text of wrong length",
-        R"({"name": "a", "type": "vec3", "max": 1, "default": "1 2"})",
-        R"(0/default: expected 3 numbers with single spaces between, found "1 2")");
-    row("vector text with two spaces",
-        R"({"name": "a", "type": "vec2", "max": 1, "default": "1  2"})",
-        R"(0/default: expected 2 numbers with single spaces between, found "1  2")");
-    row("vector text with a word", R"({"name": "a", "type": "vec2", "max": 1, "default": "1 x"})",
-        R"(0/default: "x" in "1 x" is not a number)");
-    row("vector text out of range",
-        R"({"name": "a", "type": "vec2", "max": 1, "default": "1 1e99"})",
-        R"(0/default: "1e99" in "1 1e99" is not a number)");
-    row("vector number out of range", R"({"name": "a", "type": "vec2", "max": 1, "default": 1e99})",
-        "0/default: a vector component is too large for single precision");
-    row("vector as object", R"({"name": "a", "type": "vec2", "max": 1, "default": {"x": 1}})",
-        "0/default: expected 2 numbers, found an object");
-    row("unknown colour", R"({"name": "a", "type": "vec4/color", "default": "rad"})",
-        R"(0/default: "rad" is not a colour)");
-    row("colour name of three words",
-        R"({"name": "a", "type": "vec4/color", "default": "light sea green"})",
-        R"(0/default: "light" in "light sea green" is not a number)");
-    row("colour as number", R"({"name": "a", "type": "vec4/color", "default": 1})",
-        "0/default: expected a colour as text or array of fractions, found a number");
-    row("colour in steps of 255", R"({"name": "a", "type": "vec4/color", "default": [0, 255, 0]})",
-        "0/default/1: a colour component must lie between 0 and 1");
-    row("colour text in steps of 255",
-        R"({"name": "a", "type": "vec4/color", "default": "0 255 0"})",
-        "0/default: a colour component must lie between 0 and 1");
-    row("colour of two", R"({"name": "a", "type": "vec4/color", "default": [0, 1]})",
-        "0/default: expected 3 or 4 fractions, found an array of 2");
-    row("size as number", R"({"name": "a", "type": "ivec2/size", "default": 12})",
-        "0/default: expected [width, height], found a number");
-    row("size with fraction", R"({"name": "a", "type": "ivec2/size", "default": [1, 2.5]})",
-        "0/default/1: expected a whole number, found 2.5");
-    row("matrix of eight", R"({"name": "a", "type": "transform2D", "default": "1 0 0 0 1 0 0 0"})",
-        R"(0/default: expected 9 numbers with single spaces between, found "1 0 0 0 1 0 0 0")");
-    row("choice behind the end",
-        R"({"name": "a", "type": "int/enum", "hints": {"display_values": ["x"]}, "default": 1})",
-        "0/default: there is no choice 1, the list has 1");
-    row("value of no choice",
-        R"({"name": "a", "type": "int/enum", "default": "1",
-            "hints": {"display_values": ["x"], "values": [1]}})",
-        R"(0/default: "1" is not one of the "values")");
-    row("default of an action", R"({"type": "action", "default": 1})",
-        R"(0/default: a property of type "action" has no value)");
-    row("default of a texture", R"({"name": "a", "type": "texture", "default": "wood"})",
-        R"(0/default: a value of type "texture" has no JSON form yet)");
-    row("default null of an own type", R"({"name": "a", "type": "host/own", "default": null})",
-        "0/default: expected a value, found null");
+    addRowsOnKeys();
+    addRowsOnNumbersAndTexts();
+    addRowsOnCompositeValues();
 }
 
 void tst_PropertyListReader::problemsOfRows()
@@ -796,6 +824,13 @@ void tst_PropertyListReader::hostileInputIsSurvived_data()
         << false;
     QTest::newRow("type of a million letters")
         << documentOf(R"({"name": "a", "type": ")" + QByteArray(1000000, 'x') + R"("})") << true;
+    QTest::newRow("text of the largest file")
+        << documentOf(R"({"name": "a", "type": "text", "default": ")"
+                      + QByteArray(int(kMaximumInputSize) - 100, 'x') + R"("})")
+        << true;
+    QTest::newRow("tens of thousands of mistakes")
+        << documentOf(QByteArray(R"({"name": "a", "type": "bol", "x": 1},)").repeated(20000) + "0")
+        << false;
     QTest::newRow("lone surrogates")
         << documentOf(R"({"name": "\ud800", "type": "string", "default": "\udc00x"})") << true;
     QTest::newRow("embedded zero characters")

@@ -199,8 +199,7 @@ void DisclosureButton::keyPressEvent(QKeyEvent *event)
         QAbstractButton::keyPressEvent(event);
         return;
     }
-    // Accepted also without a change, since Qt would move the focus with the arrow keys.
-    event->accept();
+    // The event stays accepted also without a change; Qt would move the focus with the arrow keys.
     if (isChecked() != *wanted)
         click();
 }

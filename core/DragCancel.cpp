@@ -13,48 +13,34 @@ DragCancel::DragCancel(const QAbstractSlider *slider)
 
 DragCancel::Verdict DragCancel::judge(QEvent *event, double value)
 {
+    Verdict verdict = Verdict::Pass;
     switch (event->type()) {
-    case QEvent::MouseButtonPress: {
-        const auto *const mouse = static_cast<const QMouseEvent *>(event);
-        if (mouse->buttons() == mouse->button()) { // no other is held: a new press begins
-            m_valueAtPress = value;
-            m_pressed = true;
-            m_ignoresPointer = false;
-        }
+    case QEvent::MouseButtonPress:
+        notePress(*static_cast<const QMouseEvent *>(event), value);
         break;
-    }
     case QEvent::MouseMove:
-        if (m_ignoresPointer) {
-            event->accept();
-            return Verdict::Swallow;
-        }
+        if (m_ignoresPointer)
+            verdict = Verdict::Swallow;
         break;
     case QEvent::MouseButtonRelease:
-        // The slider sees the release even after a cancelled drag: it has let the handle go by then,
-        // so nothing is announced, but its own bookkeeping of the press ends there.
-        if (static_cast<const QMouseEvent *>(event)->buttons() == Qt::NoButton) {
-            m_pressed = false;
-            m_ignoresPointer = false;
-        }
+        noteRelease(*static_cast<const QMouseEvent *>(event));
         break;
-    case QEvent::ShortcutOverride:
-        // Claimed here, the key reaches the slider instead of a shortcut of the window.
-        if (cancels(event)) {
-            event->accept();
-            return Verdict::Swallow;
-        }
+    case QEvent::ShortcutOverride: // claimed here, the key becomes no shortcut of the window
+        if (cancels(*static_cast<const QKeyEvent *>(event)))
+            verdict = Verdict::Swallow;
         break;
     case QEvent::KeyPress:
-        if (cancels(event)) {
+        if (cancels(*static_cast<const QKeyEvent *>(event))) {
             m_ignoresPointer = true;
-            event->accept();
-            return Verdict::Cancel;
+            verdict = Verdict::Cancel;
         }
         break;
     default:
         break;
     }
-    return Verdict::Pass;
+    if (verdict != Verdict::Pass)
+        event->accept();
+    return verdict;
 }
 
 double DragCancel::valueAtPress() const
@@ -62,10 +48,28 @@ double DragCancel::valueAtPress() const
     return m_valueAtPress;
 }
 
-bool DragCancel::cancels(const QEvent *event) const
+void DragCancel::notePress(const QMouseEvent &event, double value)
 {
-    return m_pressed && m_slider->isSliderDown()
-           && static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (event.buttons() != event.button())
+        return; // another button is held: no new press begins
+    m_valueAtPress = value;
+    m_pressed = true;
+    m_ignoresPointer = false;
+}
+
+/// The slider sees every release, even after a cancelled drag: it has let the handle go by then, so
+/// nothing is announced, but its own bookkeeping of the press ends there.
+void DragCancel::noteRelease(const QMouseEvent &event)
+{
+    if (event.buttons() != Qt::NoButton)
+        return;
+    m_pressed = false;
+    m_ignoresPointer = false;
+}
+
+bool DragCancel::cancels(const QKeyEvent &event) const
+{
+    return m_pressed && m_slider->isSliderDown() && event.key() == Qt::Key_Escape;
 }
 
 } // namespace Tessark::UI

@@ -2,6 +2,8 @@
 
 class QAbstractSlider;
 class QEvent;
+class QKeyEvent;
+class QMouseEvent;
 
 namespace Tessark::UI {
 
@@ -27,7 +29,9 @@ public:
     double valueAtPress() const;
 
 private:
-    bool cancels(const QEvent *event) const;
+    void notePress(const QMouseEvent &event, double value);
+    void noteRelease(const QMouseEvent &event);
+    bool cancels(const QKeyEvent &event) const;
 
     const QAbstractSlider *m_slider; // the owner of this object
     double m_valueAtPress = 0;

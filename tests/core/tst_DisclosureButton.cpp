@@ -146,6 +146,7 @@ private Q_SLOTS:
     void sheetColor_data();
     void sheetColor();
     void sheetBorder();
+    void sheetReplacesThePlate_data();
     void sheetReplacesThePlate();
     void sheetForTheGroupSetLater();
     void sheetOfSomebodyElse();
@@ -321,13 +322,12 @@ void tst_DisclosureButton::directionChangeRepaints()
 {
     showAndActivate();
     const PaintCounter paints(m_button);
-    QTRY_VERIFY(!m_button->visibleRegion().isEmpty());
-    QCoreApplication::processEvents();
-    const int before = paints.count();
+    m_button->update();
+    QTRY_COMPARE(paints.count(), 1);
 
     m_button->setLayoutDirection(Qt::RightToLeft);
 
-    QTRY_VERIFY(paints.count() > before);
+    QTRY_COMPARE(paints.count(), 2);
 }
 
 void tst_DisclosureButton::flatHasNoPlateAtRest()
@@ -550,25 +550,51 @@ void tst_DisclosureButton::sheetBorder()
     QCOMPARE(picture.pixelColor(3, 3), QColor(Qt::white));
 }
 
+void tst_DisclosureButton::sheetReplacesThePlate_data()
+{
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<bool>("replaces");
+
+    QTest::newRow("colour alone") << QStringLiteral("color: #ff0000") << false;
+    QTest::newRow("background") << QStringLiteral("background: #ffffff") << true;
+    QTest::newRow("gradient") << QStringLiteral(
+        "background: qlineargradient(stop: 0 white, stop: 1 white)")
+                              << true;
+    QTest::newRow("image") << QStringLiteral("background: url(%1)") << true;
+    QTest::newRow("border") << QStringLiteral("border: 1px solid black") << true;
+    QTest::newRow("rounded border")
+        << QStringLiteral("border: 1px solid black; border-radius: 4px") << true;
+}
+
 void tst_DisclosureButton::sheetReplacesThePlate()
 {
+    QFETCH(QString, rule);
+    QFETCH(bool, replaces);
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("white.png"));
+    QImage white(16, 16, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    QVERIFY(white.save(file));
     m_button->setFlat(false);
-    m_window->setStyleSheet(QStringLiteral("Tessark--UI--DisclosureButton { color: #ff0000; }"));
-    QVERIFY(pictureOf(m_button).pixelColor(2, 8) != QColor(Qt::white)); // a colour alone does not
 
-    m_window->setStyleSheet(
-        QStringLiteral("Tessark--UI--DisclosureButton { background: #ffffff; }"));
-    QCOMPARE(pictureOf(m_button).pixelColor(2, 8), QColor(Qt::white));
+    m_window->setStyleSheet(QStringLiteral("Tessark--UI--DisclosureButton { %1; }")
+                                .arg(rule.contains(QLatin1Char('%')) ? rule.arg(file) : rule));
+
+    QCOMPARE(pictureOf(m_button).pixelColor(3, 8) == QColor(Qt::white), replaces);
 }
 
 void tst_DisclosureButton::sheetForTheGroupSetLater()
 {
-    m_window->setStyleSheet(
-        QStringLiteral("Tessark--UI--DisclosureButton[group=\"round\"] { background: #00ff00; }"));
+    m_window->setStyleSheet(QStringLiteral("Tessark--UI--DisclosureButton[group=\"round\"] { "
+                                           "background: #00ff00; qproperty-flat: 0; }"));
     QCOMPARE(pictureOf(m_button).pixelColor(1, 1), QColor(Qt::white));
+    QVERIFY(m_button->isFlat());
 
     m_button->setProperty("group", QStringLiteral("round"));
     QCOMPARE(pictureOf(m_button).pixelColor(1, 1), kGreen);
+    QVERIFY(!m_button->isFlat());
+
+    m_button->setFlat(true);
     m_button->setProperty("group", QVariant());
     QCOMPARE(pictureOf(m_button).pixelColor(1, 1), QColor(Qt::white));
 }

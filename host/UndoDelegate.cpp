@@ -132,8 +132,7 @@ void UndoDelegate::restore(PropertyUI::Property *property, const QVariant &value
     const QPointer<UndoDelegate> self(this);
     delegate()->setValue(property, value, NewChange);
     if (self)
-        Q_EMIT
-    valueRestored(property);
+        Q_EMIT valueRestored(property);
 }
 
 void UndoDelegate::record(PropertyUI::Property *property, const QVariant &before,

@@ -75,20 +75,11 @@ public:
     void edit(const QVariant &value)
     {
         shown = value;
-        Q_EMIT
-        valueChanged();
+        Q_EMIT valueChanged();
     }
 
-    void start()
-    {
-        Q_EMIT
-        startInteractiveChange();
-    }
-    void end()
-    {
-        Q_EMIT
-        endInteractiveChange();
-    }
+    void start() { Q_EMIT startInteractiveChange(); }
+    void end() { Q_EMIT endInteractiveChange(); }
 
     QVariant shown;
     int setValueCalls = 0;
@@ -182,14 +173,12 @@ private:
         connect(slider, &QSlider::valueChanged, this, [this](int value) {
             const QSignalBlocker blocker(spinBox);
             spinBox->setValue(value);
-            Q_EMIT
-            valueChanged();
+            Q_EMIT valueChanged();
         });
         connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), this, [this](int value) {
             const QSignalBlocker blocker(slider);
             slider->setValue(value);
-            Q_EMIT
-            valueChanged();
+            Q_EMIT valueChanged();
         });
     }
 };

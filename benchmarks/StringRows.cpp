@@ -3,6 +3,8 @@
 //
 //   bench-string-rows [REPETITIONS]
 
+#include "benchmarks/Measure.h"
+
 #include <property/PropertyUI.h>
 
 #include <QApplication>
@@ -12,8 +14,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -24,34 +24,6 @@ namespace {
 constexpr int kSmall = 1000;
 constexpr int kLarge = 10000;
 constexpr QSize kWindowSize(420, 800);
-
-double processorSeconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
-}
-
-double secondsOf(const std::function<void()> &work)
-{
-    const double begin = processorSeconds();
-    work();
-    return processorSeconds() - begin;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-/// Runs until all posted events, layout and painting included, are done.
-void settle()
-{
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
 
 QString textOf(int row, int generation)
 {

@@ -1,10 +1,6 @@
 # Everything a builder can choose. Defaults suit a host that adds this tree as a subdirectory;
 # the presets turn on what our own developers want.
 
-if(NOT DEFINED PROJECT_IS_TOP_LEVEL)
-    set(PROJECT_IS_TOP_LEVEL OFF)
-endif()
-
 set(TESSARK_QT_MAJOR 6 CACHE STRING "Qt major version to build against (6 or 5)")
 set_property(CACHE TESSARK_QT_MAJOR PROPERTY STRINGS 6 5)
 if(NOT TESSARK_QT_MAJOR MATCHES "^[56]$")

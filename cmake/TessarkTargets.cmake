@@ -40,6 +40,14 @@ function(tessark_common target)
     endif()
 endfunction()
 
+# For what is installed: messages and assertions name source files from the root of the tree on,
+# wherever the tree lies on the machine that builds it.
+function(tessark_hide_source_path target)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        target_compile_options(${target} PRIVATE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
+    endif()
+endfunction()
+
 # tessark_add_library(<Name> OUTPUT_NAME <file> FOLDER <folder> SOURCES ... [LINK ...])
 # A versioned shared library, Tessark::<Name>, whose public headers lie in <folder>. Headers that
 # end in _p.h are ours alone and are not installed.
@@ -49,6 +57,7 @@ function(tessark_add_library name)
     add_library(${target} SHARED ${arg_SOURCES})
     add_library(Tessark::${name} ALIAS ${target})
     tessark_common(${target})
+    tessark_hide_source_path(${target})
     string(TOUPPER ${arg_OUTPUT_NAME} upper_name)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${name}

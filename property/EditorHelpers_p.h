@@ -2,12 +2,23 @@
 
 #include "property/Property.h"
 
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <functional>
+#include <initializer_list>
 #include <utility>
 
+class QAbstractSlider;
+class QAbstractSpinBox;
+class QWidget;
+
 namespace Tessark::PropertyUI {
+
+class PropertyEditor;
+
+/// Sliders that mirror a fractional number hold it in thousandths.
+inline constexpr int kSliderUnitsPerUnit = 1000;
 
 /// The hint as T, or fallback when the property does not carry it.
 template <typename T>
@@ -17,12 +28,50 @@ T hintOr(const Property &property, const QString &key, const T &fallback)
     return hint.isValid() ? hint.value<T>() : fallback;
 }
 
-/// Calls a setter of the control with the control's signals blocked, then restores blocking.
+/// Calls a setter of the control with the control's signals blocked, then restores blocking. Does
+/// nothing without control: an editor may be given a value before it has any.
 template <typename Control, typename Setter, typename... Args>
 void setQuietly(Control *control, Setter setter, Args &&...args)
 {
+    if (!control)
+        return;
     const QSignalBlocker blocker(control);
     std::invoke(setter, control, std::forward<Args>(args)...);
 }
+
+/// Runs action, which may emit, with the owner's flag set, and clears the flag afterwards unless
+/// the owner was deleted meanwhile.
+template <typename Action>
+void whileFlagged(QObject *owner, bool &flag, Action action)
+{
+    const QPointer<QObject> alive(owner);
+    flag = true;
+    action();
+    if (alive)
+        flag = false;
+}
+
+/// The number truncated toward zero, as a whole number. What lies beyond a thousand million
+/// saturates there, so that the span of a slider made of two such positions fits an int; NaN gives
+/// 0.
+int sliderPosition(double number);
+
+/// The variant as int. Numbers beyond int saturate and NaN gives 0; all else is QVariant::toInt().
+int toSaturatedInt(const QVariant &value);
+
+/// The number as an entry field can take it: NaN gives 0, an infinity the largest finite number.
+double finite(double number);
+
+/// A hundredth of the range from minimum to maximum, truncated toward zero.
+int hundredthOf(int minimum, int maximum);
+
+/// A parentless row without margins holding the controls from left to right; it owns them.
+QWidget *makeRow(std::initializer_list<QWidget *> controls);
+
+/// Makes a drag of slider one interactive run of editor, and lets editor filter its events.
+void watchSlider(QAbstractSlider *slider, PropertyEditor *editor);
+
+/// Fixes the entry field at the width that goes beside a slider, and at its own height.
+void setCompactSize(QAbstractSpinBox *spinBox);
 
 } // namespace Tessark::PropertyUI

@@ -81,8 +81,10 @@ void PropertyEditor::revertToDefaultValue()
 {
     if (m_property->defaultValue.isNull())
         return;
+    const QPointer<PropertyEditor> self(this);
     setValue(m_property->defaultValue);
-    Q_EMIT valueChanged();
+    if (self)
+        Q_EMIT valueChanged();
 }
 
 } // namespace Tessark::PropertyUI

@@ -157,7 +157,15 @@ PropertyEditorPanel::PropertyEditorPanel(QVector<Property *> properties,
         builder.add(property);
 }
 
-PropertyEditorPanel::~PropertyEditorPanel() = default;
+PropertyEditorPanel::~PropertyEditorPanel()
+{
+    // Closing the window takes the focus from a field, whose editor then announces the edit. The
+    // panel is half gone by then and must not be told.
+    for (PropertyEditor *editor : std::as_const(m_editors)) {
+        if (editor)
+            editor->disconnect(this);
+    }
+}
 
 void PropertyEditorPanel::setValue(Property *property, const QVariant &value,
                                    IPropertyEditorDelegate::ChangeFlags flags)

@@ -61,7 +61,8 @@ public:
     void updateProperty(Property *property);
 
     /// Appends the editors of properties of the given type, in panel order. An empty type appends
-    /// all, one for each property that had a factory, null where the factory returned null.
+    /// all, one for each property that had a factory: null where the factory returned null or the
+    /// host deleted the editor.
     void getEditors(QVector<PropertyEditor *> &editors, const QString &type) const;
 
 public Q_SLOTS:

@@ -1,5 +1,6 @@
 #include "property/PropertyLayout.h"
 
+#include <QChildEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QVariant>
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 namespace Tessark::PropertyUI {
 
@@ -31,6 +31,15 @@ int bounded(int minimum, int value, int maximum)
     return std::max(std::min(value, maximum), minimum);
 }
 
+/// The rectangle, cut off where its edges leave the range of int.
+QRect rectangle(qint64 x, qint64 y, int width, int height)
+{
+    QRect result;
+    result.setCoords(saturated(x), saturated(y), saturated(x + width - 1),
+                     saturated(y + height - 1));
+    return result;
+}
+
 int groupIndent(qint64 depth)
 {
     // The top group level is not indented, each deeper one adds a step.
@@ -42,6 +51,45 @@ qint64 equalShare(qint64 spare, int count)
 {
     return count > 0 ? spare / count : spare;
 }
+
+/// Takes the item of a widget out of the layout or a nested one. The widget may be half destroyed.
+bool removeWidgetItem(QLayout *layout, const QObject *widget)
+{
+    QLayoutItem *item = nullptr;
+    for (int i = 0; (item = layout->itemAt(i)); ++i) {
+        if (item->widget() == widget) {
+            delete layout->takeAt(i);
+            layout->invalidate();
+            return true;
+        }
+        if (item->layout() && removeWidgetItem(item->layout(), widget))
+            return true;
+    }
+    return false;
+}
+
+/// Lets widgets that leave their parent leave the layout too. A layout does that itself, but not
+/// while it is disabled, and would keep the item of a deleted widget.
+class LeavingWidgets final : public QObject
+{
+public:
+    explicit LeavingWidgets(QLayout *layout)
+        : m_layout(layout)
+    {
+        if (QWidget *parent = layout->parentWidget())
+            parent->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (m_layout && event->type() == QEvent::ChildRemoved)
+            removeWidgetItem(m_layout, static_cast<QChildEvent *>(event)->child());
+        return false;
+    }
+
+private:
+    const QPointer<QLayout> m_layout;
+};
 
 } // namespace
 
@@ -106,10 +154,11 @@ void PropertyLayout::initialise(int spacing)
 
 PropertyLayout::~PropertyLayout()
 {
-    // The items go in order and out of the layout first, as by taking each, but in linear time.
-    const std::vector<Entry> items = std::exchange(m_items, {});
-    for (const Entry &entry : items)
-        delete entry.item;
+    // A disabled layout does not search itself for every nested layout that leaves.
+    setEnabled(false);
+    // One by one, so that an item whose deletion deletes another finds that one still listed.
+    while (const QLayoutItem *item = PropertyLayout::takeAt(0))
+        delete item;
 }
 
 void PropertyLayout::addItem(QLayoutItem *item)
@@ -132,7 +181,11 @@ QSize PropertyLayout::minimumSize() const
 void PropertyLayout::setGeometry(const QRect &rect)
 {
     QLayout::setGeometry(rect);
+    const QPointer<PropertyLayout> self(this);
+    const quint32 revision = m_revision;
     doLayout(rect, false, SizeType::Preferred);
+    if (self && m_revision != revision)
+        invalidate(); // placing ended early and has to be done anew
 }
 
 QLayoutItem *PropertyLayout::itemAt(int index) const
@@ -146,8 +199,13 @@ QLayoutItem *PropertyLayout::takeAt(int index)
 {
     // The size caches stay as they are: the panel adds all rows before it asks for sizes.
     QLayoutItem *item = itemAt(index);
-    if (item)
-        m_items.erase(m_items.begin() + index);
+    if (!item)
+        return nullptr;
+    m_items.erase(m_items.begin() + index);
+    ++m_revision;
+    // The caller owns a nested layout only when it is no longer a child of this one.
+    if (QLayout *nested = item->layout(); nested && nested->parent() == this)
+        nested->setParent(nullptr);
     return item;
 }
 
@@ -165,6 +223,8 @@ QSize PropertyLayout::sizeHint() const
 
 void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Alignment alignment)
 {
+    if (!item)
+        return;
     // In this order on purpose: a full-width row keeps ExpandHorizontal, a label does not.
     if (options & NewRow)
         options &= ~LayoutOptions(ExpandHorizontal);
@@ -177,6 +237,7 @@ void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Align
             options |= EndGroup;
     }
     m_items.push_back({item, options, -1, -1, alignment});
+    ++m_revision;
     m_cachedSizeHint = QSize();
     m_cachedMinimumSize = QSize();
     invalidate();
@@ -189,6 +250,8 @@ void PropertyLayout::addWidget(QWidget *widget, LayoutOptions options)
 
 void PropertyLayout::addLayout(QLayout *layout, LayoutOptions options)
 {
+    if (!layout)
+        return;
     addChildLayout(layout);
     addItem(layout, options, Qt::AlignCenter);
 }
@@ -206,6 +269,8 @@ void PropertyLayout::addRow(QWidget *widget)
 
 void PropertyLayout::addChildItem(QWidget *widget, LayoutOptions options)
 {
+    if (!widget)
+        return;
     addChildWidget(widget);
     addItem(new QWidgetItem(widget), options, Qt::AlignCenter);
 }
@@ -231,16 +296,21 @@ void PropertyLayout::setGroupVisible(QWidget *groupWidget, bool visible)
 
     // Showing a widget runs code of the host, which may add or take rows or delete the layout.
     const QPointer<PropertyLayout> self(this);
-    const auto firstInside = static_cast<std::size_t>(begin - m_items.begin()) + 1;
+    auto i = static_cast<std::size_t>(begin - m_items.begin()) + 1;
+    const LeavingWidgets leavingWidgets(this);
     setEnabled(false);
     int level = 1;
-    for (std::size_t i = firstInside; self && i < m_items.size(); ++i) {
-        if (m_items[i].options & BeginGroup)
+    while (self && i < m_items.size()) {
+        const Entry &entry = m_items[i];
+        if (entry.options & BeginGroup)
             ++level;
-        else if ((m_items[i].options & EndGroup) && --level == 0)
+        else if ((entry.options & EndGroup) && --level == 0)
             break;
-        if (QWidget *widget = m_items[i].item->widget())
+        QLayoutItem *const item = entry.item;
+        if (QWidget *widget = item->widget())
             widget->setVisible(visible);
+        if (self)
+            i = indexAfter(item, i);
     }
     if (!self)
         return;
@@ -275,8 +345,8 @@ QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
             continue;
         const qint64 left = qint64(margins.left()) + groupIndent(depth);
         sizeRow(row, qint64(rect.width()) - left - margins.right(), total);
-        if (!testOnly)
-            placeRow(row, left, y, total.labelWidth);
+        if (!testOnly && !placeRow(row, left, y, total.labelWidth))
+            return {};
         y += qint64(row.height) + m_verticalSpacing;
     }
     return {saturated(total.fieldWidth + total.labelWidth + margins.left() + m_labelSpacing
@@ -392,24 +462,42 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
     }
 }
 
-void PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const
+/// Gives the items of row their rectangles. False when one of them made the host change the list or
+/// delete the layout: row and the caller's indexes are void then, and nothing may be touched.
+bool PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const
 {
+    const QPointer<const PropertyLayout> self(this);
+    const quint32 revision = m_revision;
     qint64 x = left;
     for (std::size_t i = row.first; i <= row.last; ++i) {
         const Entry &entry = m_items[i];
         const bool isRowLabel = i == row.first && !(entry.options & FullWidth);
         if (isRowLabel)
-            x += labelWidth - entry.width;
+            x += qint64(labelWidth) - entry.width;
         // A fixed item keeps its size-hint height even where its maximum made the row lower.
         const bool fillsRow = entry.expandsVertically();
         const int height = fillsRow ? row.height : entry.height;
-        const qint64 y = fillsRow ? top : top + (row.height - height) / 2;
-        entry.item->setGeometry(QRect(saturated(x), saturated(y), entry.width, height));
+        const qint64 y = fillsRow ? top : top + (qint64(row.height) - height) / 2;
+        entry.item->setGeometry(rectangle(x, y, entry.width, height));
+        if (!self || m_revision != revision)
+            return false;
         if (isRowLabel)
             x = left + labelWidth + m_labelSpacing;
         else // hidden entries too: they take the place of their last width
             x += qint64(entry.width) + m_horizontalSpacing;
     }
+    return true;
+}
+
+/// Where a walk goes on after host code ran while it was at item, then at index: behind item, or,
+/// where item has left the list, with the one that moved into its place.
+std::size_t PropertyLayout::indexAfter(const QLayoutItem *item, std::size_t index) const
+{
+    const auto isItem = [item](const Entry &entry) { return entry.item == item; };
+    if (index < m_items.size() && isItem(m_items[index]))
+        return index + 1;
+    const auto found = std::find_if(m_items.begin(), m_items.end(), isItem);
+    return found == m_items.end() ? index : static_cast<std::size_t>(found - m_items.begin()) + 1;
 }
 
 } // namespace Tessark::PropertyUI

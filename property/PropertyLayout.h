@@ -5,7 +5,7 @@
 #include <QLayout>
 #include <QSize>
 
-#include <vector>
+#include <deque>
 
 namespace Tessark::PropertyUI {
 
@@ -58,8 +58,9 @@ public:
     int count() const override;
     QSize sizeHint() const override;
 
-    /// Adds an item, which the layout owns from now on. NewRow clears ExpandHorizontal unless
-    /// FullWidth, which implies NewRow, is given too. The alignment is stored and never read.
+    /// Adds an item, which the layout owns from now on. NewRow clears ExpandHorizontal; FullWidth
+    /// implies NewRow without clearing it. The alignment is stored and never read. A null item,
+    /// widget or layout is not added.
     void addItem(QLayoutItem *item, LayoutOptions options, Qt::Alignment alignment);
 
     /// Adds a widget or a nested layout and makes it a child.
@@ -82,7 +83,8 @@ public:
     void setGroupVisible(QWidget *groupWidget, bool visible);
 
     /// Measures all items and, unless testOnly, places them. Returns the size wanted, which is the
-    /// same for every SizeType.
+    /// same for every SizeType. Placing ends early, with an invalid size, when an item that moves
+    /// makes the host change the list of items or delete the layout.
     QSize doLayout(const QRect &rect, bool testOnly, SizeType sizeType) const;
 
 private:
@@ -108,9 +110,11 @@ private:
     void beginRowAt(std::size_t index, int labelWidth, Row &row) const;
     void sizeRow(Row &row, qint64 rowSpace, Measure &measure) const;
     void sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const;
-    void placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const;
+    bool placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const;
+    std::size_t indexAfter(const QLayoutItem *item, std::size_t index) const;
 
-    mutable std::vector<Entry> m_items; // measuring and placing note sizes here
+    mutable std::deque<Entry> m_items; // measuring and placing note sizes here
+    quint32 m_revision = 0;            // of the list; rises whenever an item comes or goes
     int m_verticalSpacing = 0;
     int m_horizontalSpacing = 0;
     int m_labelSpacing = 10;

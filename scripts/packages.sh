@@ -1,4 +1,5 @@
-# Sourced by ./run and ./check: makes sure that the packages of scripts/debian-packages.txt are
+# shellcheck shell=bash disable=SC2154
+# Sourced by the scripts that build: makes sure that the packages of scripts/debian-packages.txt are
 # installed.
 
 # The packages of the given sets, one a line.
@@ -46,9 +47,11 @@ require_packages() {
         as_root=(sudo)
     fi
     echo "Installing: ${missing[*]}" >&2
-    # A fresh machine may have no package lists yet, or old ones.
-    local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q)
-    "${apt[@]}" update >&2 &&
-        "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >&2 ||
+    # A fresh machine may have no package lists yet, or old ones, and may be busy with updates of
+    # its own just after its start. Where a list cannot be fetched, the others may still do.
+    local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive
+        apt-get -q -o DPkg::Lock::Timeout=300)
+    "${apt[@]}" update >&2 || echo "The package lists could not be fetched." >&2
+    "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >&2 ||
         explain_packages_and_stop "Installing the packages failed."
 }

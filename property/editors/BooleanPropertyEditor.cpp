@@ -20,8 +20,7 @@ BooleanPropertyEditor::~BooleanPropertyEditor() = default;
 
 void BooleanPropertyEditor::setValue(const QVariant &value)
 {
-    if (m_checkBox)
-        setQuietly(m_checkBox, &QCheckBox::setChecked, value.toBool());
+    setQuietly(m_checkBox, &QCheckBox::setChecked, value.toBool());
 }
 
 QVariant BooleanPropertyEditor::value() const

@@ -4,12 +4,18 @@
 #include "property/PropertyVocabulary.h"
 #include "property/editors/ActionPropertyEditor.h"
 #include "property/editors/BooleanPropertyEditor.h"
+#include "property/editors/EnumerationPropertyEditor.h"
+#include "property/editors/FilenamePropertyEditor.h"
+#include "property/editors/FloatPropertyEditor.h"
 #include "property/editors/GroupPropertyEditor.h"
+#include "property/editors/IntegerPropertyEditor.h"
+#include "property/editors/PercentPropertyEditor.h"
 #include "property/editors/SeparatorPropertyEditor.h"
 #include "property/editors/StaticTextPropertyEditor.h"
 #include "property/editors/StringPropertyEditor.h"
 #include "property/editors/TabPropertyEditor.h"
 #include "property/editors/TextPropertyEditor.h"
+#include "property/editors/VecPropertyEditor.h"
 
 namespace Tessark::PropertyUI {
 
@@ -26,16 +32,24 @@ void PropertyEditorPanel::InitialiseRegistry()
         PropertyEditorRegistry::Factory factory;
     };
     const Registration registrations[] = {
+        {kPropertyTypeInteger, IntegerPropertyEditor::Factory},
+        {kPropertyTypeFloat, FloatPropertyEditor::Factory},
+        {kPropertyTypePercent, PercentPropertyEditor::Factory},
         {kPropertyTypeBoolean, BooleanPropertyEditor::Factory},
         {kPropertyTypeStaticText, StaticTextPropertyEditor::Factory},
         {kPropertyTypeString, StringPropertyEditor::Factory},
         {kPropertyTypeText, TextPropertyEditor::Factory},
+        {kPropertyTypeEnumeration, EnumerationPropertyEditor::Factory},
         {kPropertyTypeSeparator, SeparatorPropertyEditor::Factory},
+        {kPropertyTypeVec2, Vec2PropertyEditor::Factory},
+        {kPropertyTypeVec3, Vec3PropertyEditor::Factory},
+        {kPropertyTypeVec4, Vec4PropertyEditor::Factory},
         {kPropertyTypeBeginGroup, GroupPropertyEditor::Factory},
         {kPropertyTypeEndGroup, GroupPropertyEditor::Factory},
         {kPropertyTypeBeginTabGroup, TabPropertyEditor::Factory},
         {kPropertyTypeEndTabGroup, TabPropertyEditor::Factory},
         {kPropertyTypeTab, TabPropertyEditor::Factory},
+        {kPropertyTypeFilename, FilenamePropertyEditor::Factory},
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
     };
     for (const Registration &registration : registrations) {

@@ -43,9 +43,9 @@ QVariant TabPropertyEditor::hint(const QString &key)
 QWidget *TabPropertyEditor::makeTabWidget()
 {
     m_tabWidget = new QTabWidget;
-    const QVariant position = m_property->hint(kPropertyHintTabPosition);
-    if (!position.isNull())
-        m_tabWidget->setTabPosition(static_cast<QTabWidget::TabPosition>(position.toInt()));
+    const int position = m_property->hint(kPropertyHintTabPosition).toInt();
+    if (position >= QTabWidget::North && position <= QTabWidget::East)
+        m_tabWidget->setTabPosition(static_cast<QTabWidget::TabPosition>(position));
     connect(m_tabWidget, &QTabWidget::currentChanged, this, &PropertyEditor::valueChanged);
     return m_tabWidget;
 }

@@ -11,7 +11,8 @@ namespace Tessark::PropertyUI {
  *
  * A "begin_tab_group" property is a tab widget, a "tab" property an empty page that the panel adds
  * to it and fills, an "end_tab_group" has no widget and so no row. Hint read:
- * kPropertyHintTabPosition (int, QTabWidget::TabPosition) when the tab widget is built.
+ * kPropertyHintTabPosition (int, QTabWidget::TabPosition; any other number means north) when the
+ * tab widget is built.
  *
  * Value: int, index of the current page, for a "begin_tab_group" once its widget exists; otherwise
  * bool true. The current page belongs to the user: setValue() changes nothing. valueChanged() comes

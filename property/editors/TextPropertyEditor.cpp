@@ -4,7 +4,6 @@
 
 #include <QFont>
 #include <QPlainTextEdit>
-#include <QTextCursor>
 #include <QTextDocument>
 
 namespace Tessark::PropertyUI {
@@ -30,8 +29,7 @@ TextPropertyEditor::~TextPropertyEditor() = default;
 
 void TextPropertyEditor::setValue(const QVariant &value)
 {
-    if (m_textEdit)
-        setQuietly(m_textEdit, &QPlainTextEdit::setPlainText, value.toString());
+    setQuietly(m_textEdit, &QPlainTextEdit::setPlainText, value.toString());
 }
 
 QVariant TextPropertyEditor::value() const
@@ -48,14 +46,7 @@ QWidget *TextPropertyEditor::widget(PropertyEditorContext *)
         m_textEdit->setMinimumHeight(kMinimumHeight);
         QFont font(QStringLiteral("monospace"), kPointSize);
         font.setFixedPitch(true);
-
-        QTextCursor cursor = m_textEdit->textCursor();
-        cursor.select(QTextCursor::Document);
-        m_textEdit->setTextCursor(cursor);
-        cursor.clearSelection();
-        m_textEdit->setTextCursor(cursor);
-        m_textEdit->document()->setDefaultFont(font);
-        m_textEdit->setFont(font);
+        m_textEdit->setFont(font); // becomes the document's default font as well
     }
     return m_widget;
 }

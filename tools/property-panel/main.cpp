@@ -1,17 +1,20 @@
-#include <host/PropertyList.h>
-#include <property/PropertyUI.h>
+#include "Program.h"
+#include "StandardStreams.h"
 
 #include <QApplication>
 
-using namespace Tessark;
+using namespace Tessark::PropertyPanel;
 
 int main(int argc, char **argv)
 {
+    protectStandardStreams();
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const PlatformChoice choice = choosePlatform(arguments);
+
     QApplication application(argc, argv);
-    PropertyHost::PropertyList list;
-    list.append({QStringLiteral("title"), QStringLiteral("Title"),
-                 PropertyUI::kPropertyTypeString});
-    PropertyUI::PropertyEditorPanel panel(list.properties(), nullptr, nullptr);
-    panel.show();
-    return QApplication::exec();
+    QApplication::setApplicationName(QStringLiteral("property-panel"));
+    QApplication::setApplicationVersion(QStringLiteral(TESSARK_VERSION));
+    return static_cast<int>(runProgram(QApplication::arguments(), currentDisplay(choice)));
 }

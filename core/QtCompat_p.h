@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFileDialog>
+
+namespace Tessark::UI {
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+/// Whether mode picks a directory. Qt 5 has a second enumerator for it, deprecated but in use;
+/// Qt 6 dropped it.
+inline bool picksDirectory(QFileDialog::FileMode mode)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return mode == QFileDialog::Directory || mode == QFileDialog::DirectoryOnly;
+#else
+    return mode == QFileDialog::Directory;
+#endif
+}
+QT_WARNING_POP
+
+} // namespace Tessark::UI

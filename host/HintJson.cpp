@@ -1,0 +1,336 @@
+#include "host/HintJson_p.h"
+
+#include "host/ProblemCollector_p.h"
+#include "host/Suggestion_p.h"
+
+#include <property/PropertyVocabulary.h>
+
+#include <QFont>
+#include <QJsonObject>
+#include <QMap>
+#include <QRegularExpression>
+#include <QTabWidget>
+
+namespace Tessark::PropertyHost {
+
+namespace {
+
+using namespace PropertyUI;
+
+using HintReader = std::optional<QVariant> (*)(const QJsonValue &json, ConversionError &error);
+
+struct NamedNumber
+{
+    QLatin1String name;
+    int number = 0;
+};
+
+const NamedNumber kAlignments[] = {
+    {QLatin1String("left"), Qt::AlignLeft},       {QLatin1String("right"), Qt::AlignRight},
+    {QLatin1String("hcenter"), Qt::AlignHCenter}, {QLatin1String("justify"), Qt::AlignJustify},
+    {QLatin1String("top"), Qt::AlignTop},         {QLatin1String("bottom"), Qt::AlignBottom},
+    {QLatin1String("vcenter"), Qt::AlignVCenter}, {QLatin1String("center"), Qt::AlignCenter},
+};
+
+const NamedNumber kTabPositions[] = {
+    {QLatin1String("north"), QTabWidget::North},
+    {QLatin1String("south"), QTabWidget::South},
+    {QLatin1String("west"), QTabWidget::West},
+    {QLatin1String("east"), QTabWidget::East},
+};
+
+const NamedNumber kOrientations[] = {
+    {QLatin1String("horizontal"), Qt::Horizontal},
+    {QLatin1String("vertical"), Qt::Vertical},
+};
+
+template <std::size_t N>
+std::optional<int> numberOfName(const NamedNumber (&table)[N], const QString &name,
+                                ConversionError &error)
+{
+    QStringList names;
+    for (const NamedNumber &entry : table) {
+        if (entry.name == name)
+            return entry.number;
+        names.append(entry.name);
+    }
+    error.message =
+        QStringLiteral("%1 is not one of %2").arg(quoted(name), names.join(QLatin1String(", ")));
+    return std::nullopt;
+}
+
+template <std::size_t N>
+std::optional<QVariant> nameFromJson(const NamedNumber (&table)[N], const QJsonValue &json,
+                                     ConversionError &error)
+{
+    const auto name = textFromJson(json, error);
+    const auto number = name ? numberOfName(table, *name, error) : std::nullopt;
+    return number ? std::optional(QVariant(*number)) : std::nullopt;
+}
+
+template <typename T>
+std::optional<QVariant> toVariant(const std::optional<T> &value)
+{
+    return value ? std::optional(QVariant::fromValue(*value)) : std::nullopt;
+}
+
+std::optional<QVariant> readBoolean(const QJsonValue &json, ConversionError &error)
+{
+    return toVariant(booleanFromJson(json, error));
+}
+
+std::optional<QVariant> readInteger(const QJsonValue &json, ConversionError &error)
+{
+    return toVariant(integerFromJson(json, error));
+}
+
+std::optional<QVariant> readNumber(const QJsonValue &json, ConversionError &error)
+{
+    return toVariant(numberFromJson(json, error));
+}
+
+std::optional<QVariant> readText(const QJsonValue &json, ConversionError &error)
+{
+    return toVariant(textFromJson(json, error));
+}
+
+std::optional<QVariant> readSize(const QJsonValue &json, ConversionError &error)
+{
+    return toVariant(sizeFromJson(json, error));
+}
+
+std::optional<QVariant> readColor(const QJsonValue &json, ConversionError &error)
+{
+    return toVariant(colorFromJson(json, Alpha::With, error));
+}
+
+std::optional<QVariant> readTabPosition(const QJsonValue &json, ConversionError &error)
+{
+    return nameFromJson(kTabPositions, json, error);
+}
+
+std::optional<QVariant> readOrientation(const QJsonValue &json, ConversionError &error)
+{
+    return nameFromJson(kOrientations, json, error);
+}
+
+/// The names of a text that joins them by "|", with or without blanks.
+QStringList splitNames(const QString &text)
+{
+    QStringList names = text.split(QLatin1Char('|'));
+    for (QString &name : names)
+        name = name.trimmed();
+    return names;
+}
+
+std::optional<QVariant> alignmentFromNames(const QStringList &names, ConversionError &error)
+{
+    int alignment = 0;
+    for (const QString &name : names) {
+        const auto flag = numberOfName(kAlignments, name, error);
+        if (!flag)
+            return std::nullopt;
+        alignment |= *flag;
+    }
+    return alignment;
+}
+
+/// The texts of an array of texts.
+std::optional<QStringList> textsFromJson(const QJsonValue &json, const QString &what,
+                                         ConversionError &error)
+{
+    if (!json.isArray()) {
+        error.message = expectedMessage(what, json);
+        return std::nullopt;
+    }
+    QStringList texts;
+    const QJsonArray array = json.toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        const auto text = textFromJson(array.at(i), error);
+        if (!text) {
+            error.path = childPointer(QString(), i);
+            return std::nullopt;
+        }
+        texts.append(*text);
+    }
+    return texts;
+}
+
+std::optional<QVariant> readAlignment(const QJsonValue &json, ConversionError &error)
+{
+    if (json.isString())
+        return alignmentFromNames(splitNames(json.toString()), error);
+    const auto names = textsFromJson(json, QStringLiteral("names of alignments"), error);
+    if (!names)
+        return std::nullopt;
+    if (names->isEmpty()) {
+        error.message = QStringLiteral("expected names of alignments, found an empty array");
+        return std::nullopt;
+    }
+    return alignmentFromNames(*names, error);
+}
+
+std::optional<QVariant> readValues(const QJsonValue &json, ConversionError &error)
+{
+    if (!json.isArray()) {
+        error.message = expectedMessage(QStringLiteral("an array"), json);
+        return std::nullopt;
+    }
+    QVariantList values;
+    const QJsonArray array = json.toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        const auto value = scalarFromJson(array.at(i), error);
+        if (!value) {
+            error.path = childPointer(QString(), i);
+            return std::nullopt;
+        }
+        values.append(*value);
+    }
+    return QVariant(values);
+}
+
+std::optional<QVariant> readTexts(const QJsonValue &json, ConversionError &error)
+{
+    return toVariant(textsFromJson(json, QStringLiteral("an array"), error));
+}
+
+std::optional<QVariant> fontFromText(const QString &text, ConversionError &error)
+{
+    static const QRegularExpression s_font(
+        QStringLiteral("\\A *([^, ][^,]*)(?:, *([1-9][0-9]{0,2}(?:\\.[0-9]+)?) *)?\\z"));
+    const QRegularExpressionMatch match = s_font.match(text);
+    if (!match.hasMatch()) {
+        error.message =
+            QStringLiteral("%1 is not of the form \"Family\" or \"Family, 12\"").arg(quoted(text));
+        return std::nullopt;
+    }
+    QFont font;
+    font.setFamily(match.captured(1).trimmed());
+    if (!match.captured(2).isEmpty())
+        font.setPointSizeF(match.captured(2).toDouble());
+    return font;
+}
+
+bool setFontFamily(QFont &font, const QJsonValue &json, ConversionError &error)
+{
+    const auto family = textFromJson(json, error);
+    if (family)
+        font.setFamily(*family);
+    return family.has_value();
+}
+
+bool setFontSize(QFont &font, const QJsonValue &json, ConversionError &error)
+{
+    const auto size = numberFromJson(json, error);
+    if (!size)
+        return false;
+    if (*size < 1.0 || *size >= 1000.0) {
+        error.message = QStringLiteral("a font size must be at least 1 and below 1000");
+        return false;
+    }
+    font.setPointSizeF(*size);
+    return true;
+}
+
+bool setFontBold(QFont &font, const QJsonValue &json, ConversionError &error)
+{
+    const auto bold = booleanFromJson(json, error);
+    if (bold)
+        font.setBold(*bold);
+    return bold.has_value();
+}
+
+bool setFontItalic(QFont &font, const QJsonValue &json, ConversionError &error)
+{
+    const auto italic = booleanFromJson(json, error);
+    if (italic)
+        font.setItalic(*italic);
+    return italic.has_value();
+}
+
+std::optional<QVariant> fontFromObject(const QJsonObject &object, ConversionError &error)
+{
+    using Setter = bool (*)(QFont &, const QJsonValue &, ConversionError &);
+    static const QMap<QString, Setter> s_setters{
+        {QStringLiteral("family"), setFontFamily},
+        {QStringLiteral("size"), setFontSize},
+        {QStringLiteral("bold"), setFontBold},
+        {QStringLiteral("italic"), setFontItalic},
+    };
+    QFont font;
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+        const Setter setter = s_setters.value(it.key());
+        if (!setter)
+            error.message = QStringLiteral("unknown key") + suggestion(it.key(), s_setters.keys());
+        if (!setter || !setter(font, it.value(), error)) {
+            error.path = childPointer(QString(), it.key());
+            return std::nullopt;
+        }
+    }
+    return font;
+}
+
+std::optional<QVariant> readFont(const QJsonValue &json, ConversionError &error)
+{
+    if (json.isString())
+        return fontFromText(json.toString(), error);
+    if (json.isObject())
+        return fontFromObject(json.toObject(), error);
+    error.message = expectedMessage(QStringLiteral("a font as text or object"), json);
+    return std::nullopt;
+}
+
+const QMap<QString, HintReader> &hintReaders()
+{
+    static const QMap<QString, HintReader> s_readers{
+        {kPropertyHintEnabled, readBoolean},
+        {kPropertyHintFullWidth, readBoolean},
+        {kPropertyHintForeground, readColor},
+        {kPropertyHintBackground, readColor},
+        {kPropertyHintFont, readFont},
+        {kPropertyHintAlignment, readAlignment},
+        {kPropertyHintOrientation, readOrientation},
+        {kPropertyHintSize, readSize},
+        {kPropertyHintMinimumSize, readSize},
+        {kPropertyHintMaximumSize, readSize},
+        {kPropertyHintWidget, readText},
+        {kPropertyHintPreferencesKey, readText},
+        {kPropertyHintStyleSheet, readText},
+        {kPropertyHintTabPosition, readTabPosition},
+        {kPropertyHintValues, readValues},
+        {kPropertyHintDisplayValues, readTexts},
+        {kPropertyHintShowMultipleCheck, readBoolean},
+        {kPropertyHintShowSliders, readBoolean},
+        {kPropertyHintLogarithmicSlider, readBoolean},
+        {kPropertyHintDisplayScale, readNumber},
+        {kPropertyHintAspectRatio, readSize},
+        {kPropertyHintFullSize, readSize},
+        {kPropertyHintBoolHideLabel, readBoolean},
+        {kPropertyHintXfrmNoRotation, readBoolean},
+        {kPropertyHintXfrmNoPosition, readBoolean},
+        {kPropertyHintXfrmNoScale, readBoolean},
+        {kPropertyHintFloatDecimals, readInteger},
+        {kPropertyHintSuffix, readText},
+        {kPropertyHintXfrmUniformScale, readBoolean},
+        {kPropertyHintXfrmCollapsibleScale, readBoolean},
+        {kPropertyHintUseNativeDialogs, readBoolean},
+    };
+    return s_readers;
+}
+
+} // namespace
+
+const QStringList &vocabularyHints()
+{
+    static const QStringList s_keys = hintReaders().keys();
+    return s_keys;
+}
+
+std::optional<QVariant> hintFromJson(const QString &key, const QJsonValue &json,
+                                     ConversionError &error)
+{
+    const HintReader reader = hintReaders().value(key);
+    return reader ? reader(json, error) : std::optional(json.toVariant());
+}
+
+} // namespace Tessark::PropertyHost

@@ -1,0 +1,65 @@
+#include "host/ProblemCollector_p.h"
+
+#include <utility>
+
+namespace Tessark::PropertyHost {
+
+QString childPointer(const QString &pointer, const QString &key)
+{
+    QString escaped = key;
+    escaped.replace(QLatin1Char('~'), QLatin1String("~0"));
+    escaped.replace(QLatin1Char('/'), QLatin1String("~1"));
+    return pointer + QLatin1Char('/') + escaped;
+}
+
+QString childPointer(const QString &pointer, int index)
+{
+    return pointer + QLatin1Char('/') + QString::number(index);
+}
+
+void ProblemCollector::error(const QString &pointer, const QString &message)
+{
+    add(Problem::Severity::Error, pointer, message);
+}
+
+void ProblemCollector::warning(const QString &pointer, const QString &message)
+{
+    add(Problem::Severity::Warning, pointer, message);
+}
+
+bool ProblemCollector::isFull() const
+{
+    return m_problems.size() >= kMaximumProblems;
+}
+
+QVector<Problem> ProblemCollector::take()
+{
+    if (m_unlistedErrors > 0 || m_unlistedWarnings > 0) {
+        Problem rest;
+        rest.severity =
+            m_unlistedErrors > 0 ? Problem::Severity::Error : Problem::Severity::Warning;
+        rest.message = QStringLiteral("%1 more errors and %2 more warnings are not listed")
+                           .arg(m_unlistedErrors)
+                           .arg(m_unlistedWarnings);
+        m_problems.append(rest);
+    }
+    m_unlistedErrors = 0;
+    m_unlistedWarnings = 0;
+    return std::exchange(m_problems, {});
+}
+
+void ProblemCollector::add(Problem::Severity severity, const QString &pointer,
+                           const QString &message)
+{
+    if (isFull()) {
+        ++(severity == Problem::Severity::Error ? m_unlistedErrors : m_unlistedWarnings);
+        return;
+    }
+    Problem problem;
+    problem.severity = severity;
+    problem.message = message;
+    problem.pointer = pointer;
+    m_problems.append(problem);
+}
+
+} // namespace Tessark::PropertyHost

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/Problem.h"
+#include "host/PropertyList.h"
+
+#include <QByteArray>
+#include <QVector>
+
+namespace Tessark::PropertyHost {
+
+/// What readPropertyList() made of a document.
+struct PropertyListResult
+{
+    PropertyList list;         // the rows that could be read, in order
+    QVector<Problem> problems; // everything that is wrong, in the order of the document
+};
+
+/**
+ * Reads a property list from its JSON form (UTF-8, a byte order mark is accepted).
+ *
+ * The document is an object with "version" (1), "properties" (an array of objects) and, if wanted,
+ * "title" and "$schema". A property has "type" and, unless its type is structural, "name"; it may
+ * have "label" (the name when absent), "min", "max", "hardMax", "default" and "hints". How the
+ * values look is described at valueFromJson(). The file property-list.schema.json, installed with
+ * the library, says the same in a form that text editors use to complete and check.
+ *
+ * All problems are listed, not only the first. A row whose type has no editor is left out with a
+ * warning; so register editors of your own types in PropertyEditorRegistry before. A row with a bad
+ * range, default or hint is read without it. A row that is no object, or has no usable type or
+ * name, is left out, and so is the second row of a name; structural rows stay in without their name.
+ */
+TESSARK_PROPERTYHOST_EXPORT PropertyListResult readPropertyList(const QByteArray &json);
+
+} // namespace Tessark::PropertyHost

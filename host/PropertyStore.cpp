@@ -1,0 +1,117 @@
+#include "host/PropertyStore.h"
+
+#include "host/JsonInput_p.h"
+#include "host/ProblemCollector_p.h"
+#include "host/PropertyList.h"
+#include "host/ValueJson.h"
+#include "host/ValueJson_p.h"
+#include "host/ValueKind_p.h"
+
+#include <QMap>
+
+namespace Tessark::PropertyHost {
+
+using namespace PropertyUI;
+
+namespace {
+
+/// The properties with a value, sorted by name as the keys of a JSON object are.
+QMap<QString, Property *> valuedProperties(const PropertyList &list)
+{
+    QMap<QString, Property *> result;
+    for (Property *property : list.properties()) {
+        if (carriesValue(property->type))
+            result.insert(property->name, property);
+    }
+    return result;
+}
+
+} // namespace
+
+PropertyStore::PropertyStore(QObject *parent)
+    : QObject(parent)
+{
+    // Signal spies and queued connections look the parameter of valueChanged() up by this name.
+    qRegisterMetaType<Property *>("Tessark::PropertyUI::Property*");
+}
+
+PropertyStore::~PropertyStore() = default;
+
+void PropertyStore::setValue(Property *property, const QVariant &value, ChangeFlags flags)
+{
+    if (!property->name.isEmpty() && value.isValid())
+        m_values.insert(property->name, value);
+    Q_EMIT valueChanged(property, value, flags.testFlag(ContinuedChange));
+}
+
+QVariant PropertyStore::value(Property *property)
+{
+    return m_values.value(property->name);
+}
+
+void PropertyStore::reset(const PropertyList &list)
+{
+    m_values.clear();
+    m_unknownValues = {};
+    for (const Property *property : valuedProperties(list)) {
+        const bool hasDefault = property->defaultValue.isValid();
+        m_values.insert(property->name,
+                        hasDefault ? property->defaultValue : initialValue(*property));
+    }
+}
+
+QVector<Problem> PropertyStore::readValues(const QByteArray &json, const PropertyList &list)
+{
+    QVector<Problem> problems;
+    const auto document = parseJson(json, problems);
+    if (!document)
+        return problems;
+    ProblemCollector collector;
+    if (!document->isObject()) {
+        collector.error(QString(), expectedMessage(QStringLiteral("an object"), document->array()));
+        return collector.take();
+    }
+    const QJsonObject values = document->object();
+    const QMap<QString, Property *> properties = valuedProperties(list);
+    m_unknownValues = {};
+    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
+        const Property *const property = properties.value(it.key());
+        if (property)
+            readValue(*property, it.value(), collector);
+        else
+            m_unknownValues.insert(it.key(), it.value());
+    }
+    return collector.take();
+}
+
+void PropertyStore::readValue(const Property &property, const QJsonValue &json,
+                              ProblemCollector &problems)
+{
+    const QString pointer = childPointer(QString(), property.name);
+    ConversionError error;
+    const auto value = convertValue(property, json, error);
+    if (!value) {
+        // What has no JSON form yet is not lost on writing; any other value replaces this.
+        m_unknownValues.insert(property.name, json);
+        problems.error(pointer + error.path, error.message);
+        return;
+    }
+    m_values.insert(property.name, *value);
+    if (isOutsideRange(property, *value)) {
+        problems.warning(pointer,
+                         QStringLiteral("%1 is outside of the range").arg(componentsText(*value)));
+    }
+}
+
+QJsonObject PropertyStore::toJson(const PropertyList &list) const
+{
+    QJsonObject result = m_unknownValues;
+    for (const Property *property : valuedProperties(list)) {
+        const QJsonValue json = valueToJson(*property, m_values.value(property->name));
+        if (!json.isUndefined())
+            result.insert(property->name, json);
+    }
+    return result;
+}
+
+} // namespace Tessark::PropertyHost

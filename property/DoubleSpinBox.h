@@ -1,0 +1,26 @@
+#pragma once
+
+#include "property/PropertyExport.h"
+
+#include <QDoubleSpinBox>
+
+namespace Tessark::PropertyUI {
+
+/**
+ * A decimal spin box that shows its value without trailing zeros and without group separators, in
+ * the widget's locale.
+ *
+ * Typing at the end of the text past decimals() drops the further digit instead of refusing it. It
+ * has no meta-object of its own: style sheets and casts see a QDoubleSpinBox.
+ */
+class TESSARK_PROPERTY_EXPORT DoubleSpinBox : public QDoubleSpinBox
+{
+public:
+    explicit DoubleSpinBox(QWidget *parent = nullptr);
+    ~DoubleSpinBox() override;
+
+    QValidator::State validate(QString &input, int &pos) const override;
+    QString textFromValue(double value) const override;
+};
+
+} // namespace Tessark::PropertyUI

@@ -1,0 +1,22 @@
+# shellcheck shell=bash disable=SC2154
+# Sourced by the scripts that build. They set root, the root of the tree.
+
+# A build folder remembers where its source tree lay: that of a moved or copied checkout is of no
+# use and starts anew.
+discard_moved_build() {
+    local cache="$1/CMakeCache.txt"
+    [ -f "$cache" ] || return 0
+    grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache" || rm -rf "$1"
+}
+
+# build_and_test PRESET, from the root of the tree. The last lines are ctest's.
+build_and_test() {
+    local preset=$1 jobs
+    jobs=$(nproc)
+    discard_moved_build "$root/build/$preset"
+    echo "== $preset: build"
+    cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" -j "$jobs"
+    echo "== $preset: test"
+    ctest --test-dir "build/$preset" --no-tests=error --output-on-failure -j "$jobs"
+}

@@ -1,0 +1,624 @@
+// Runs the program itself, as a script or a user would.
+
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+constexpr int kTimeout = 60000; // of one run, in milliseconds
+
+const QByteArray kList = R"({
+    "version": 1,
+    "title": "Test",
+    "properties": [
+        {"name": "title", "label": "Title", "type": "string", "default": "Untitled"},
+        {"name": "loop", "label": "Loop", "type": "bool", "default": false},
+        {"name": "notes", "label": "Notes", "type": "text", "default": ""},
+        {"name": "go", "label": "Go", "type": "action"}
+    ]
+})";
+
+struct Result
+{
+    int status = -1; // stays when the program crashed or hung
+    QByteArray output;
+    QByteArray error;
+
+    QList<QByteArray> outputLines() const
+    {
+        QList<QByteArray> lines = output.split('\n');
+        if (lines.last().isEmpty())
+            lines.removeLast();
+        return lines;
+    }
+};
+
+/// The words of a command line without quoting.
+QStringList words(const char *line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '));
+}
+
+/// The steps of the driver, separated by commas.
+QStringList steps(const char *line)
+{
+    return QString::fromLatin1(line).split(QStringLiteral(", "));
+}
+
+} // namespace
+
+class tst_property_panel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void helpAndVersionNeedNoDisplay_data();
+    void helpAndVersionNeedNoDisplay();
+    void helpTellsAllOptionsAndStatuses();
+    void wrongCommandLine_data();
+    void wrongCommandLine();
+    void checkOfGoodInputSaysSo_data();
+    void checkOfGoodInputSaysSo();
+    void checkOfBuiltInListFindsNoProblem();
+    void checkOfWarningsOnlySucceeds();
+    void checkListsEveryProblem();
+    void checkTellsTheLineOfASyntaxError();
+    void checkLooksAtTheValuesToo();
+    void badInputStopsEveryTask_data();
+    void badInputStopsEveryTask();
+    void listFromStandardInput();
+    void windowWithoutDisplayIsAnError_data();
+    void windowWithoutDisplayIsAnError();
+    void renderWithoutDisplay();
+    void renderTakesValues();
+    void renderFollowsScaleFactor();
+    void renderThatCannotWriteFails();
+    void saveWritesTheDefaults();
+    void saveWritesTypedTextWithoutReturn();
+    void saveKeepsValuesOfUnknownNames();
+    void saveWithTheKeyboard();
+    void saveReplacesTheValuesFileItStartedFrom();
+    void saveToStandardOutput();
+    void failedSaveKeepsTheWindow_data();
+    void failedSaveKeepsTheWindow();
+    void cancelWritesNothing_data();
+    void cancelWritesNothing();
+    void liveLines();
+    void liveOutputWithoutReaderIsNoHarm();
+    void closedStandardOutputIsNoHarm();
+
+private:
+    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    void write(const char *name, const QByteArray &content) const;
+    QByteArray read(const char *name) const;
+    QJsonObject readObject(const char *name) const;
+
+    /// The environment of a machine without display.
+    static QProcessEnvironment withoutDisplay();
+
+    /// An environment in which a driver plays the steps; see PanelDriver.cpp.
+    static QProcessEnvironment withDriver(const QStringList &steps);
+
+    Result run(const QStringList &arguments, const QProcessEnvironment &environment,
+               const QByteArray &input = QByteArray()) const;
+    Result runPlain(const char *arguments, const QByteArray &input = QByteArray()) const;
+    Result play(const char *arguments, const char *steps) const;
+
+    /// Runs a shell command line in which $0 is the program.
+    Result playInShell(const char *command, const char *steps) const;
+    Result finish(QProcess &process, const QByteArray &input = QByteArray()) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_property_panel::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    write("list.json", kList);
+}
+
+void tst_property_panel::write(const char *name, const QByteArray &content) const
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write a test file");
+}
+
+QByteArray tst_property_panel::read(const char *name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QJsonObject tst_property_panel::readObject(const char *name) const
+{
+    return QJsonDocument::fromJson(read(name)).object();
+}
+
+QProcessEnvironment tst_property_panel::withoutDisplay()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR"})
+        environment.remove(QLatin1String(name));
+    return environment;
+}
+
+QProcessEnvironment tst_property_panel::withDriver(const QStringList &steps)
+{
+    QProcessEnvironment environment = withoutDisplay();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(TEST_PLUGINS));
+    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("tessarkdriver"));
+    environment.insert(QStringLiteral("TESSARK_DRIVER_STEPS"), steps.join(QLatin1Char('\n')));
+    return environment;
+}
+
+Result tst_property_panel::run(const QStringList &arguments, const QProcessEnvironment &environment,
+                               const QByteArray &input) const
+{
+    QProcess process;
+    process.setProgram(QStringLiteral(PROPERTY_PANEL_PROGRAM));
+    process.setArguments(arguments);
+    process.setProcessEnvironment(environment);
+    return finish(process, input);
+}
+
+Result tst_property_panel::runPlain(const char *arguments, const QByteArray &input) const
+{
+    return run(words(arguments), withoutDisplay(), input);
+}
+
+Result tst_property_panel::play(const char *arguments, const char *driverSteps) const
+{
+    return run(words(arguments), withDriver(steps(driverSteps)));
+}
+
+Result tst_property_panel::playInShell(const char *command, const char *driverSteps) const
+{
+    QProcess process;
+    process.setProgram(QStringLiteral("/bin/sh"));
+    process.setArguments({QStringLiteral("-c"), QString::fromLatin1(command),
+                          QStringLiteral(PROPERTY_PANEL_PROGRAM)});
+    process.setProcessEnvironment(withDriver(steps(driverSteps)));
+    return finish(process);
+}
+
+Result tst_property_panel::finish(QProcess &process, const QByteArray &input) const
+{
+    process.setWorkingDirectory(m_folder->path());
+    process.start();
+    process.write(input);
+    process.closeWriteChannel();
+    Result result;
+    if (!process.waitForFinished(kTimeout)) {
+        process.kill();
+        process.waitForFinished();
+    } else if (process.exitStatus() == QProcess::NormalExit) {
+        result.status = process.exitCode();
+    }
+    result.output = process.readAllStandardOutput();
+    result.error = process.readAllStandardError();
+    return result;
+}
+
+void tst_property_panel::helpAndVersionNeedNoDisplay_data()
+{
+    QTest::addColumn<QByteArray>("option");
+    QTest::addColumn<QByteArray>("start");
+    const QByteArray version = "property-panel " PROJECT_VERSION "\n";
+
+    QTest::newRow("--help") << QByteArray("--help") << QByteArray("Usage: ");
+    QTest::newRow("-h") << QByteArray("-h") << QByteArray("Usage: ");
+    QTest::newRow("--version") << QByteArray("--version") << version;
+    QTest::newRow("-v") << QByteArray("-v") << version;
+}
+
+void tst_property_panel::helpAndVersionNeedNoDisplay()
+{
+    QFETCH(QByteArray, option);
+    QFETCH(QByteArray, start);
+
+    const Result result = runPlain(option.constData());
+
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.output.startsWith(start), result.output.constData());
+}
+
+void tst_property_panel::helpTellsAllOptionsAndStatuses()
+{
+    const Result result = runPlain("--help");
+
+    for (const char *text : {"LIST.json", "--values <FILE>", "--output <FILE>", "--live", "--check",
+                             "--render <PNG>", "--size <WxH>", "--theme <THEME>", "--version",
+                             "--help", "Exit status:", "\n  0  ", "\n  1  ", "\n  2  "})
+        QVERIFY2(result.output.contains(text), text);
+}
+
+void tst_property_panel::wrongCommandLine_data()
+{
+    QTest::addColumn<QByteArray>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    const auto row = [](const char *name, const char *arguments, const char *message) {
+        QTest::newRow(name) << QByteArray(arguments) << QByteArray(message);
+    };
+
+    row("an unknown option", "--frobnicate", "frobnicate");
+    row("two lists", "list.json other.json", "other.json");
+    row("an unknown theme", "--theme pink", "\"pink\"");
+    row("a size without height", "--size 640", "\"640\"");
+    row("a size of nothing", "--size 0x480", "\"0x480\"");
+    row("a negative size", "--size -1x480", "\"-1x480\"");
+    row("a size beyond all screens", "--size 100000x10", "\"100000x10\"");
+    row("a size that overflows", "--size 99999999999x10", "\"99999999999x10\"");
+    row("--output without file", "--output", "output");
+    row("--check with --render", "--check --render x.png", "--render");
+    row("standard input twice", "- --values -", "standard input");
+    row("an empty file name", "--values=", "--values");
+}
+
+void tst_property_panel::wrongCommandLine()
+{
+    QFETCH(QByteArray, arguments);
+    QFETCH(QByteArray, message);
+
+    const Result result = runPlain(arguments.constData());
+
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.error.contains("property-panel: error: "), result.error.constData());
+    QVERIFY2(result.error.contains(message), result.error.constData());
+    QVERIFY(result.output.isEmpty());
+}
+
+void tst_property_panel::checkOfGoodInputSaysSo_data()
+{
+    QTest::addColumn<QByteArray>("arguments");
+
+    QTest::newRow("a list") << QByteArray("--check list.json");
+    QTest::newRow("a list and values") << QByteArray("--check list.json --values values.json");
+}
+
+void tst_property_panel::checkOfGoodInputSaysSo()
+{
+    QFETCH(QByteArray, arguments);
+    write("values.json", R"({"title": "A", "other": [1, 2]})");
+
+    const Result result = runPlain(arguments.constData());
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output, QByteArray("no problems found\n"));
+    QVERIFY2(!result.error.contains(".json"), result.error.constData());
+}
+
+void tst_property_panel::checkOfBuiltInListFindsNoProblem()
+{
+    const Result result = runPlain("--check");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output, QByteArray("no problems found\n"));
+}
+
+void tst_property_panel::checkOfWarningsOnlySucceeds()
+{
+    write("list.json",
+          R"({"version": 1, "properties": [{"name": "x", "label": "X", "type": "hologram"}]})");
+
+    const Result result = runPlain("--check list.json");
+
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.error.contains("list.json: warning: /properties/0"), result.error.constData());
+    QVERIFY(result.output.isEmpty());
+}
+
+void tst_property_panel::checkListsEveryProblem()
+{
+    write("list.json", R"({"version": 1, "properties": [
+        {"name": "a", "type": "bool", "default": "yes"},
+        17,
+        {"name": "a", "type": "string", "default": 3}
+    ]})");
+
+    const Result result = runPlain("list.json --check");
+
+    QCOMPARE(result.status, 2);
+    for (const char *place : {"list.json: error: /properties/0/default: ",
+                              "list.json: error: /properties/1: ", "error: /properties/2/"})
+        QVERIFY2(result.error.contains(place), result.error.constData());
+    QVERIFY(result.output.isEmpty());
+}
+
+void tst_property_panel::checkTellsTheLineOfASyntaxError()
+{
+    write("list.json", "{\n  \"version\": 1,\n  \"properties\" []\n}\n");
+
+    const Result result = runPlain("list.json --check");
+
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.error.contains("list.json:3:16: error: "), result.error.constData());
+}
+
+void tst_property_panel::checkLooksAtTheValuesToo()
+{
+    write("values.json", R"({"loop": "maybe", "title": 4})");
+
+    const Result result = runPlain("list.json --check --values values.json");
+
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.error.contains("values.json: error: /loop: "), result.error.constData());
+    QVERIFY2(result.error.contains("values.json: error: /title: "), result.error.constData());
+}
+
+void tst_property_panel::badInputStopsEveryTask_data()
+{
+    QTest::addColumn<QByteArray>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    const auto row = [](const char *name, const char *arguments, const char *message) {
+        QTest::newRow(name) << QByteArray(arguments) << QByteArray(message);
+    };
+
+    row("a missing list", "none.json", "none.json: error: ");
+    row("a missing values file", "list.json --values none.json", "none.json: error: ");
+    row("a folder for a list", ".", ".: error: ");
+    row("a bad list", "bad.json", "bad.json: error: /properties/0");
+    row("a bad list to render", "bad.json --render x.png", "bad.json: error: /properties/0");
+    row("an empty file", "empty.json", "empty.json:");
+}
+
+void tst_property_panel::badInputStopsEveryTask()
+{
+    QFETCH(QByteArray, arguments);
+    QFETCH(QByteArray, message);
+    write("bad.json",
+          R"({"version": 1, "properties": [{"name": "a", "type": "bool", "default": "yes"}]})");
+    write("empty.json", QByteArray());
+
+    const Result result = play(arguments.constData(), "press Save");
+
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.error.contains(message), result.error.constData());
+    QVERIFY(!QFile::exists(path("x.png")));
+}
+
+void tst_property_panel::listFromStandardInput()
+{
+    const QByteArray bad = R"({"version": 1, "properties": [{"type": "bool", "name": 3}]})";
+
+    QCOMPARE(runPlain("- --check", kList).status, 0);
+    const Result result = runPlain("- --check", bad);
+
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.error.contains("standard input: error: /properties/0"),
+             result.error.constData());
+}
+
+void tst_property_panel::windowWithoutDisplayIsAnError_data()
+{
+    QTest::addColumn<QString>("display");
+
+    QTest::newRow("no display") << QString();
+    QTest::newRow("a display that does not answer") << QStringLiteral("localhost:59999");
+}
+
+void tst_property_panel::windowWithoutDisplayIsAnError()
+{
+    QFETCH(QString, display);
+    QProcessEnvironment environment = withoutDisplay();
+    if (!display.isEmpty())
+        environment.insert(QStringLiteral("DISPLAY"), display);
+
+    const Result result = run(words("list.json"), environment);
+
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.error.contains("no display"), result.error.constData());
+}
+
+void tst_property_panel::renderWithoutDisplay()
+{
+    const Result result = runPlain("--render panel.png");
+
+    QCOMPARE(result.status, 0);
+    const QList<QByteArray> files = result.outputLines();
+    QVERIFY(files.size() > 1);
+    QCOMPARE(files.first(), QByteArray("panel.png"));
+    for (const QByteArray &file : files)
+        QVERIFY2(!QImage(path(file.constData())).isNull(), file.constData());
+}
+
+void tst_property_panel::renderTakesValues()
+{
+    write("values.json", R"({"title": "Another title", "loop": true})");
+
+    QCOMPARE(runPlain("list.json --theme light --render a.png").status, 0);
+    QCOMPARE(runPlain("list.json --theme light --render b.png --values values.json").status, 0);
+
+    const QImage defaults(path("a.png"));
+    const QImage values(path("b.png"));
+    QCOMPARE(defaults.size(), values.size());
+    QVERIFY(defaults != values);
+}
+
+void tst_property_panel::renderFollowsScaleFactor()
+{
+    QProcessEnvironment environment = withoutDisplay();
+
+    run(words("list.json --render 1.png --size 600x700"), environment);
+    environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
+    run(words("list.json --render 2.png --size 600x700"), environment);
+
+    QCOMPARE(QImage(path("1.png")).size(), QSize(600, 700));
+    QCOMPARE(QImage(path("2.png")).size(), QSize(1200, 1400));
+}
+
+void tst_property_panel::renderThatCannotWriteFails()
+{
+    const Result result = runPlain("list.json --render none/x.png");
+
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.error.contains("Cannot write none/x.png: "), result.error.constData());
+    QVERIFY(result.output.isEmpty());
+}
+
+void tst_property_panel::saveWritesTheDefaults()
+{
+    const Result result = play("list.json --output out.json", "press Save");
+
+    QCOMPARE(result.status, 0);
+    QVERIFY(result.output.isEmpty());
+    QCOMPARE(readObject("out.json"),
+             (QJsonObject{{QStringLiteral("title"), QStringLiteral("Untitled")},
+                          {QStringLiteral("loop"), false},
+                          {QStringLiteral("notes"), QString()}}));
+}
+
+void tst_property_panel::saveWritesTypedTextWithoutReturn()
+{
+    const Result result =
+        play("list.json --output out.json", "press Loop, text noted, line typed, press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(readObject("out.json"),
+             (QJsonObject{{QStringLiteral("title"), QStringLiteral("typed")},
+                          {QStringLiteral("loop"), true},
+                          {QStringLiteral("notes"), QStringLiteral("noted")}}));
+}
+
+void tst_property_panel::saveKeepsValuesOfUnknownNames()
+{
+    write("values.json",
+          R"({"zoom": 1.25, "title": "From file", "nested": {"a": [1, null, "x"]}})");
+
+    const Result result = play("list.json --values values.json --output out.json", "press Save");
+
+    QCOMPARE(result.status, 0);
+    const QJsonObject nested{
+        {QStringLiteral("a"), QJsonArray{1, QJsonValue::Null, QStringLiteral("x")}}};
+    const QJsonObject saved = readObject("out.json");
+    QCOMPARE(saved.value(QStringLiteral("zoom")), QJsonValue(1.25));
+    QCOMPARE(saved.value(QStringLiteral("nested")), QJsonValue(nested));
+    QCOMPARE(saved.value(QStringLiteral("title")), QJsonValue(QStringLiteral("From file")));
+}
+
+void tst_property_panel::saveWithTheKeyboard()
+{
+    const Result result = play("list.json --output out.json", "line typed, key Ctrl+S");
+
+    QCOMPARE(result.status, 0);
+    QVERIFY(read("out.json").contains("\"typed\""));
+}
+
+void tst_property_panel::saveReplacesTheValuesFileItStartedFrom()
+{
+    write("values.json", R"({"title": "Before"})");
+
+    const Result result =
+        play("list.json --values values.json --output values.json", "line After, press Save");
+
+    QCOMPARE(result.status, 0);
+    QVERIFY(read("values.json").contains("\"After\""));
+}
+
+void tst_property_panel::saveToStandardOutput()
+{
+    const Result result = play("list.json", "press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(QJsonDocument::fromJson(result.output).object().value(QStringLiteral("title")),
+             QJsonValue(QStringLiteral("Untitled")));
+}
+
+void tst_property_panel::failedSaveKeepsTheWindow_data()
+{
+    QTest::addColumn<QByteArray>("output");
+
+    QTest::newRow("a folder that does not exist") << QByteArray("none/out.json");
+    QTest::newRow("a folder in place of the file") << QByteArray(".");
+}
+
+void tst_property_panel::failedSaveKeepsTheWindow()
+{
+    QFETCH(QByteArray, output);
+    const QByteArray arguments = "list.json --output " + output;
+
+    // The window must still be there to be cancelled, and still know of the change.
+    const Result result = play(arguments.constData(),
+                               "line typed, press Save, key Ctrl+S, press Cancel, press Cancel, "
+                               "close, press Discard");
+
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.error.count("property-panel: error: Cannot write " + output), 2);
+}
+
+void tst_property_panel::cancelWritesNothing_data()
+{
+    QTest::addColumn<QByteArray>("steps");
+
+    QTest::newRow("the button") << QByteArray("press Cancel");
+    QTest::newRow("Escape") << QByteArray("key Esc");
+    QTest::newRow("closing the window") << QByteArray("close");
+    QTest::newRow("a change that is not wanted") << QByteArray("press Loop, close, press Discard");
+    QTest::newRow("typed text that is not wanted")
+        << QByteArray("line typed, key Esc, press Discard");
+    QTest::newRow("a change that was undone") << QByteArray("press Loop, key Ctrl+Z, press Cancel");
+}
+
+void tst_property_panel::cancelWritesNothing()
+{
+    QFETCH(QByteArray, steps);
+    write("out.json", "before");
+
+    const Result result = play("list.json --output out.json", steps.constData());
+
+    QCOMPARE(result.status, 1);
+    QVERIFY(result.output.isEmpty());
+    QCOMPARE(read("out.json"), QByteArray("before"));
+}
+
+void tst_property_panel::liveLines()
+{
+    const Result result =
+        play("list.json --live", "press Loop, line new, key Return, press Go, press Undo, "
+                                 "press Reset All, press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.outputLines(),
+             (QList<QByteArray>{R"({"continued":false,"name":"loop","value":true})",
+                                R"({"continued":false,"name":"title","value":"new"})",
+                                R"({"continued":false,"name":"go","value":null})",
+                                R"({"continued":false,"name":"title","value":"Untitled"})",
+                                R"({"continued":false,"name":"loop","value":false})",
+                                R"({"loop":false,"notes":"","title":"Untitled"})"}));
+}
+
+void tst_property_panel::liveOutputWithoutReaderIsNoHarm()
+{
+    const Result result =
+        playInShell("{ \"$0\" list.json --live --output out.json; echo $? >status; } | true",
+                    "press Loop, press Loop, press Loop, press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(read("status"), QByteArray("0\n"));
+    QVERIFY(read("out.json").contains("\"loop\": true"));
+}
+
+void tst_property_panel::closedStandardOutputIsNoHarm()
+{
+    const Result result =
+        playInShell("\"$0\" list.json --live --output out.json >&-", "press Loop, press Save");
+
+    QCOMPARE(result.status, 0);
+    const QByteArray saved = read("out.json");
+    QVERIFY2(saved.startsWith("{\n") && saved.contains("\"loop\": true"), saved.constData());
+}
+
+QTEST_GUILESS_MAIN(tst_property_panel)
+#include "tst_property_panel.moc"

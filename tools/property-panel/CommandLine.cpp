@@ -1,0 +1,184 @@
+#include "CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <iterator>
+#include <optional>
+
+namespace Tessark::PropertyPanel {
+
+namespace {
+
+constexpr int kMaximumExtent = 10000;
+constexpr int kMaximumDigits = 5;
+
+const QString kValues = QStringLiteral("values");
+const QString kOutput = QStringLiteral("output");
+const QString kLive = QStringLiteral("live");
+const QString kCheck = QStringLiteral("check");
+const QString kRender = QStringLiteral("render");
+const QString kSize = QStringLiteral("size");
+const QString kTheme = QStringLiteral("theme");
+const QString kVersion = QStringLiteral("version");
+const QString kHelp = QStringLiteral("help");
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        tr("Shows a panel for a JSON list of properties and writes the values that the user gave "
+           "them, as a JSON object of name to value."));
+    parser.addPositionalArgument(
+        QStringLiteral("LIST.json"),
+        tr("The property list; - reads standard input. Without it a built-in list is shown."),
+        QStringLiteral("[LIST.json]"));
+    parser.addOptions({
+        {kValues, tr("Start from the values in <FILE> instead of the defaults."), tr("FILE")},
+        {kOutput, tr("Save to <FILE>, whole or not at all, instead of to standard output."),
+         tr("FILE")},
+        {kLive, tr("Print each change at once as one line of JSON: \"name\", \"value\" and, in "
+                   "\"continued\", whether it goes on with the change before it.")},
+        {kCheck, tr("List all that is wrong with the list and the values; show nothing.")},
+        {kRender,
+         tr("Draw the whole panel to <PNG>, and each further tab page to a file named "
+            "after it, and print their names; show nothing."),
+         tr("PNG")},
+        {kSize, tr("Size of the window, or of the picture; a picture grows to hold the panel."),
+         tr("WxH")},
+        {kTheme, tr("Look: system (the default), light or dark."), tr("THEME")},
+        {{QStringLiteral("v"), kVersion}, tr("Print the version.")},
+        {{QStringLiteral("h"), kHelp}, tr("Print this help.")},
+    });
+}
+
+/// The first of the options that was given an empty value, for which there is no use.
+QString emptyOption(const QCommandLineParser &parser)
+{
+    for (const QString &name : {kValues, kOutput, kRender}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return name;
+    }
+    return QString();
+}
+
+std::optional<QSize> sizeFromText(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\A([0-9]+)x([0-9]+)\\z"));
+    const QRegularExpressionMatch match = pattern.match(text);
+    if (!match.hasMatch() || match.capturedLength(1) > kMaximumDigits
+        || match.capturedLength(2) > kMaximumDigits)
+        return std::nullopt;
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    if (size.isEmpty() || size.width() > kMaximumExtent || size.height() > kMaximumExtent)
+        return std::nullopt;
+    return size;
+}
+
+std::optional<Theme> themeFromText(const QString &text)
+{
+    constexpr struct
+    {
+        const char *name;
+        Theme theme;
+    } themes[] = {{"system", Theme::System}, {"light", Theme::Light}, {"dark", Theme::Dark}};
+    for (const auto &entry : themes) {
+        if (text == QLatin1String(entry.name))
+            return entry.theme;
+    }
+    return std::nullopt;
+}
+
+Options::Task taskOf(const QCommandLineParser &parser)
+{
+    if (parser.isSet(kHelp))
+        return Options::Task::Help;
+    if (parser.isSet(kVersion))
+        return Options::Task::Version;
+    if (parser.isSet(kCheck))
+        return Options::Task::Check;
+    return parser.isSet(kRender) ? Options::Task::Render : Options::Task::Edit;
+}
+
+Options pathsAndFlags(const QCommandLineParser &parser)
+{
+    Options options;
+    options.task = taskOf(parser);
+    options.listPath = parser.positionalArguments().value(0);
+    options.valuesPath = parser.value(kValues);
+    options.outputPath = parser.value(kOutput);
+    options.renderPath = parser.value(kRender);
+    options.live = parser.isSet(kLive);
+    return options;
+}
+
+/// What is wrong with the arguments taken together; empty when nothing is.
+QString contradiction(const QCommandLineParser &parser)
+{
+    const QStringList positional = parser.positionalArguments();
+    if (positional.size() > 1)
+        return tr("There can be one property list only; \"%1\" is one too many.")
+            .arg(positional.at(1));
+    if (positional.value(0, QStringLiteral("x")).isEmpty())
+        return tr("The name of the property list is empty.");
+    const QString empty = emptyOption(parser);
+    if (!empty.isEmpty())
+        return tr("--%1 needs the name of a file.").arg(empty);
+    if (parser.isSet(kCheck) && parser.isSet(kRender))
+        return tr("--check and --render cannot be used together.");
+    if (positional.value(0) == QLatin1String("-") && parser.value(kValues) == QLatin1String("-"))
+        return tr("The list and the values cannot both come from standard input.");
+    return QString();
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    if (!parser.parse(arguments))
+        return {{}, parser.errorText()};
+
+    CommandLine result{pathsAndFlags(parser), QString()};
+    const Options::Task task = result.options.task;
+    if (task == Options::Task::Help || task == Options::Task::Version)
+        return result;
+    result.error = contradiction(parser);
+    if (parser.isSet(kSize)) {
+        const std::optional<QSize> size = sizeFromText(parser.value(kSize));
+        if (!size)
+            result.error = tr("\"%1\" is not a size; write width x height, such as 640x480, each "
+                              "from 1 to %2.")
+                               .arg(parser.value(kSize))
+                               .arg(kMaximumExtent);
+        result.options.size = size.value_or(QSize());
+    }
+    if (parser.isSet(kTheme)) {
+        const std::optional<Theme> theme = themeFromText(parser.value(kTheme));
+        if (!theme)
+            result.error = tr("There is no theme \"%1\"; choose system, light or dark.")
+                               .arg(parser.value(kTheme));
+        result.options.theme = theme.value_or(Theme::System);
+    }
+    return result;
+}
+
+QString helpText()
+{
+    QCommandLineParser parser;
+    describe(parser);
+    return parser.helpText()
+           + tr("\nExit status:\n"
+                "  0  the values were saved, or what else was asked for was done\n"
+                "  1  the user cancelled; nothing was written\n"
+                "  2  wrong options, an error in the list or the values, no display to show a\n"
+                "     window on, or pictures that could not be written");
+}
+
+} // namespace Tessark::PropertyPanel

@@ -1,0 +1,76 @@
+#include "Input.h"
+
+#include <host/InputFile.h>
+#include <host/PropertyListReader.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace Tessark::PropertyPanel {
+
+namespace {
+
+const QString kBuiltInList = QStringLiteral(":/property-panel/builtin.json");
+const QString kStandardInput = QStringLiteral("-");
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Input", text);
+}
+
+QString displayName(const QString &path)
+{
+    if (path == kBuiltInList)
+        return tr("built-in list");
+    return path == kStandardInput ? tr("standard input") : path;
+}
+
+std::optional<QByteArray> readFile(const QString &path, QVector<PropertyHost::Problem> &problems)
+{
+    return PropertyHost::readInputFile(path == kStandardInput ? QStringLiteral("/dev/stdin") : path,
+                                       problems);
+}
+
+void note(const QVector<PropertyHost::Problem> &problems, const QString &path, Input &input)
+{
+    for (const PropertyHost::Problem &problem : problems)
+        input.problems.append(problem.toString(displayName(path)));
+    input.hasErrors = input.hasErrors || PropertyHost::hasErrors(problems);
+}
+
+void readList(const QString &path, Input &input)
+{
+    QVector<PropertyHost::Problem> problems;
+    if (const auto json = readFile(path, problems)) {
+        auto result = PropertyHost::readPropertyList(*json);
+        input.list = std::move(result.list);
+        problems += result.problems;
+    }
+    note(problems, path, input);
+    if (input.list.title().isEmpty())
+        input.list.setTitle(path == kStandardInput ? tr("Properties")
+                                                   : QFileInfo(path).completeBaseName());
+}
+
+void readValues(const QString &path, Input &input)
+{
+    QVector<PropertyHost::Problem> problems;
+    if (const auto json = readFile(path, problems))
+        problems += input.store->readValues(*json, input.list);
+    note(problems, path, input);
+}
+
+} // namespace
+
+Input readInput(const Options &options)
+{
+    Input input;
+    readList(options.listPath.isEmpty() ? kBuiltInList : options.listPath, input);
+    input.store = std::make_unique<PropertyHost::PropertyStore>();
+    input.store->reset(input.list);
+    if (!options.valuesPath.isEmpty())
+        readValues(options.valuesPath, input);
+    return input;
+}
+
+} // namespace Tessark::PropertyPanel

@@ -1,0 +1,58 @@
+#include "LivePrinter.h"
+
+#include "StandardStreams.h"
+
+#include <host/PropertyList.h>
+#include <host/PropertyStore.h>
+#include <host/ValueJson.h>
+#include <property/Property.h>
+#include <property/PropertyVocabulary.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Tessark::PropertyPanel {
+
+namespace {
+
+bool isStructural(const PropertyUI::Property &property)
+{
+    return property.type == PropertyUI::kPropertyTypeBeginGroup
+           || property.type == PropertyUI::kPropertyTypeBeginTabGroup;
+}
+
+} // namespace
+
+LivePrinter::LivePrinter(const PropertyHost::PropertyList &list, PropertyHost::PropertyStore *store,
+                         QObject *parent)
+    : QObject(parent)
+{
+    const auto properties = list.properties();
+    for (PropertyUI::Property *property : properties)
+        m_known.insert(property->name,
+                       PropertyHost::valueToJson(*property, store->value(property)));
+    connect(store, &PropertyHost::PropertyStore::valueChanged, this,
+            [this](PropertyUI::Property *property, const QVariant &value, bool continued) {
+                print(*property, value, continued);
+            });
+}
+
+void LivePrinter::print(const PropertyUI::Property &property, const QVariant &value, bool continued)
+{
+    if (m_outputFailed || isStructural(property))
+        return;
+    const QJsonValue json = PropertyHost::valueToJson(property, value);
+    if (!json.isUndefined() && m_known.value(property.name, QJsonValue::Undefined) == json)
+        return;
+    m_known.insert(property.name, json);
+    const QJsonObject line{
+        {QStringLiteral("name"), property.name},
+        {QStringLiteral("value"), json.isUndefined() ? QJsonValue() : json},
+        {QStringLiteral("continued"), continued},
+    };
+    QString error;
+    m_outputFailed =
+        !writeStandardOutput(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n', &error);
+}
+
+} // namespace Tessark::PropertyPanel

@@ -1,0 +1,145 @@
+#include "PanelRenderer.h"
+
+#include "PanelWidth.h"
+#include "PictureNames.h"
+
+#include <host/PropertyList.h>
+#include <host/PropertyStore.h>
+#include <property/PropertyUI.h>
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QSaveFile>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace Tessark::PropertyPanel {
+
+namespace {
+
+constexpr int kMargin = 12;
+constexpr int kSmallestUsualWidth = 460;
+
+/// A tab page by the way to it.
+struct Step
+{
+    QTabWidget *tabs;
+    int page;
+};
+
+QVector<QTabWidget *> tabGroups(const PropertyUI::PropertyEditorPanel &panel)
+{
+    QVector<PropertyUI::PropertyEditor *> editors;
+    panel.getEditors(editors, PropertyUI::kPropertyTypeBeginTabGroup);
+    QVector<QTabWidget *> groups;
+    for (PropertyUI::PropertyEditor *editor : std::as_const(editors)) {
+        if (auto *const tabs = qobject_cast<QTabWidget *>(editor->widget(nullptr)))
+            groups.append(tabs);
+    }
+    return groups;
+}
+
+/// The pages around a page, outermost first, and the page itself.
+QVector<Step> wayTo(QTabWidget *tabs, int page)
+{
+    QVector<Step> way{{tabs, page}};
+    const QWidget *child = tabs;
+    for (QWidget *parent = tabs->parentWidget(); parent; parent = parent->parentWidget()) {
+        auto *const outer = qobject_cast<QTabWidget *>(parent);
+        for (int i = 0; outer && i < outer->count(); ++i) {
+            if (outer->widget(i)->isAncestorOf(child))
+                way.prepend({outer, i});
+        }
+    }
+    return way;
+}
+
+QStringList titlesOf(const QVector<Step> &way)
+{
+    QStringList titles;
+    for (const Step &step : way)
+        titles.append(step.tabs->tabText(step.page));
+    return titles;
+}
+
+/// Makes the pages current and gives those that were.
+QVector<Step> turnTo(const QVector<Step> &pages)
+{
+    QVector<Step> before;
+    for (const Step &step : pages) {
+        before.append({step.tabs, step.tabs->currentIndex()});
+        step.tabs->setCurrentIndex(step.page);
+    }
+    return before;
+}
+
+std::unique_ptr<QWidget> makeSheet(PropertyUI::PropertyEditorPanel *panel, const QSize &size)
+{
+    auto sheet = std::make_unique<QWidget>();
+    auto *const layout = new QVBoxLayout(sheet.get());
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->addWidget(panel);
+    // Shown, so that everything is polished and laid out, but not on the screen. Without constraints
+    // there are none to tell a platform that cannot take them.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    sheet->setAttribute(Qt::WA_DontShowOnScreen);
+    sheet->show();
+    widenToContents(*panel);
+    sheet->resize(size.isValid() ? size.expandedTo(sheet->minimumSizeHint())
+                                 : sheet->sizeHint().expandedTo(QSize(kSmallestUsualWidth, 0)));
+    return sheet;
+}
+
+/// Writes a picture of the sheet, whole or not at all; gives the reason when it cannot.
+QString writePicture(QWidget &sheet, const QString &path)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && sheet.grab().save(&file, "PNG") && file.commit())
+        return QString();
+    return QCoreApplication::translate("PanelRenderer", "Cannot write %1: %2")
+        .arg(path, file.errorString());
+}
+
+/// Adds one more picture, unless an earlier one failed.
+void addPicture(RenderedPictures &pictures, QWidget &sheet, const QString &path)
+{
+    if (!pictures.error.isEmpty())
+        return;
+    QCoreApplication::sendPostedEvents(); // what a page that was turned to puts off, such as layout
+    pictures.error = writePicture(sheet, path);
+    if (pictures.error.isEmpty())
+        pictures.files.append(path);
+}
+
+} // namespace
+
+RenderedPictures renderPanel(const PropertyHost::PropertyList &list,
+                             PropertyHost::PropertyStore &store, const QString &path,
+                             const QSize &size)
+{
+    auto *const panel = new PropertyUI::PropertyEditorPanel(list.properties(), &store, nullptr);
+    panel->updateUI();
+    const std::unique_ptr<QWidget> sheet = makeSheet(panel, size); // takes the panel over
+
+    RenderedPictures pictures;
+    PictureNames names(path);
+    addPicture(pictures, *sheet, path);
+    const QVector<QTabWidget *> groups = tabGroups(*panel);
+    for (QTabWidget *tabs : groups) {
+        const int shown = tabs->currentIndex();
+        for (int page = 0; page < tabs->count(); ++page) {
+            if (page == shown)
+                continue;
+            const QVector<Step> way = wayTo(tabs, page);
+            const QVector<Step> before = turnTo(way);
+            addPicture(pictures, *sheet, names.forPage(titlesOf(way)));
+            turnTo(before);
+        }
+    }
+    return pictures;
+}
+
+} // namespace Tessark::PropertyPanel

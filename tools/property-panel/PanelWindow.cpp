@@ -1,0 +1,306 @@
+#include "PanelWindow.h"
+
+#include "GroupFolding.h"
+#include "PanelWidth.h"
+#include "StandardStreams.h"
+#include "UndoKeys.h"
+
+#include <core/KitColors.h>
+#include <host/PropertyList.h>
+#include <host/PropertyStore.h>
+#include <host/UndoDelegate.h>
+#include <property/PropertyUI.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QToolButton>
+#include <QUndoStack>
+#include <QVBoxLayout>
+
+namespace Tessark::PropertyPanel {
+
+namespace {
+
+constexpr int kMargin = 12;
+constexpr QSize kSmallestUsualSize(460, 240);
+constexpr double kLargestShareOfScreen = 0.9;
+
+QToolButton *makeToolButton(QAction *action)
+{
+    auto *const button = new QToolButton;
+    button->setDefaultAction(action);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setAutoRaise(true);
+    // A click leaves the field that is being edited its focus.
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QLabel *makeErrorBanner()
+{
+    auto *const banner = new QLabel;
+    banner->setObjectName(QStringLiteral("errorBanner"));
+    banner->setWordWrap(true);
+    banner->setTextFormat(Qt::PlainText);
+    banner->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    banner->setStyleSheet(
+        QStringLiteral("background: %1; color: white; padding: 8px; border-radius: 4px;")
+            .arg(QColor(UI::kKitRed).name()));
+    banner->hide();
+    return banner;
+}
+
+} // namespace
+
+PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::PropertyStore *store,
+                         const ValuesWriter &writer)
+    : m_list(list)
+    , m_store(store)
+    , m_writer(writer)
+    , m_stack(new QUndoStack(this))
+    , m_delegate(new PropertyHost::UndoDelegate(store, m_stack, this))
+    , m_panel(makePanel())
+    , m_pending(m_panel)
+{
+    setWindowTitle(list.title() + QStringLiteral("[*]"));
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->addLayout(makeToolRow());
+    m_scrollArea = makeScrollArea();
+    layout->addWidget(m_scrollArea, 1);
+    m_error = makeErrorBanner();
+    layout->addWidget(m_error);
+    layout->addWidget(makeButtons());
+    followStack();
+    new UndoKeys(this, [this] { return !m_pending.isEmpty(); });
+    m_panel->setFocus();
+}
+
+PanelWindow::~PanelWindow()
+{
+    // While the window goes, the focus moves once more and the stack, a child, becomes empty.
+    disconnect(qApp, nullptr, this, nullptr);
+    disconnect(m_stack, nullptr, this, nullptr);
+    // Before the delegate, which the panel may still call.
+    delete m_scrollArea->takeWidget();
+}
+
+bool PanelWindow::hasUnsavedChanges() const
+{
+    return !m_stack->isClean() || !m_pending.isEmpty();
+}
+
+QSize PanelWindow::sizeHint() const
+{
+    const QSize panel = m_panel->sizeHint().expandedTo(m_panel->minimumSize());
+    const QSize whole = layout()->sizeHint();
+    const int scrollBar = m_scrollArea->verticalScrollBar()->sizeHint().width();
+    const QSize wanted(panel.width() + scrollBar + 2 * kMargin,
+                       panel.height() + whole.height() - m_scrollArea->sizeHint().height());
+    return wanted.expandedTo(QSize(whole.width(), 0))
+        .expandedTo(kSmallestUsualSize)
+        .boundedTo(screen()->availableSize() * kLargestShareOfScreen);
+}
+
+void PanelWindow::save()
+{
+    m_pending.commit();
+    const QString error = m_writer.write(m_store->toJson(m_list));
+    if (!error.isEmpty()) {
+        showError(error);
+        return;
+    }
+    m_stack->setClean();
+    finish(ExitStatus::Saved);
+}
+
+void PanelWindow::cancel()
+{
+    if (hasUnsavedChanges())
+        askAboutChanges();
+    else
+        finish(ExitStatus::Cancelled);
+}
+
+void PanelWindow::undo()
+{
+    m_pending.commit();
+    m_stack->undo();
+}
+
+void PanelWindow::redo()
+{
+    m_pending.commit();
+    m_stack->redo();
+}
+
+void PanelWindow::resetAll()
+{
+    m_pending.commit();
+    PropertyHost::PropertyStore defaults;
+    defaults.reset(m_list);
+    QVector<PropertyUI::Property *> changed;
+    const auto properties = m_list.properties();
+    for (PropertyUI::Property *property : properties) {
+        if (defaults.value(property) != m_store->value(property))
+            changed.append(property);
+    }
+    if (changed.isEmpty())
+        return;
+    m_stack->beginMacro(tr("Reset All"));
+    for (PropertyUI::Property *property : std::as_const(changed))
+        m_delegate->setValue(property, defaults.value(property),
+                             PropertyHost::UndoDelegate::NewChange);
+    m_stack->endMacro();
+    refresh();
+}
+
+void PanelWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(m_finished);
+    if (!m_finished)
+        cancel();
+}
+
+void PanelWindow::keyPressEvent(QKeyEvent *event)
+{
+    // As a key, not as a shortcut: what is inside may use Escape for itself first.
+    if (event->matches(QKeySequence::Cancel))
+        cancel();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+PropertyUI::PropertyEditorPanel *PanelWindow::makePanel()
+{
+    auto *const panel =
+        new PropertyUI::PropertyEditorPanel(m_list.properties(), m_delegate, nullptr);
+    foldGroupsOnTabPages(*panel);
+    panel->updateUI();
+    widenToContents(*panel);
+    return panel;
+}
+
+QBoxLayout *PanelWindow::makeToolRow()
+{
+    QAction *const undoAction =
+        addUndoAction(m_stack->createUndoAction(this), tr("Undo"), QStringLiteral("edit-undo"));
+    undoAction->setShortcuts(QKeySequence::Undo);
+    connect(undoAction, &QAction::triggered, this, &PanelWindow::undo);
+    QAction *const redoAction =
+        addUndoAction(m_stack->createRedoAction(this), tr("Redo"), QStringLiteral("edit-redo"));
+    redoAction->setShortcuts(QKeySequence::Redo);
+    connect(redoAction, &QAction::triggered, this, &PanelWindow::redo);
+
+    auto *const row = new QHBoxLayout;
+    row->addWidget(makeToolButton(undoAction));
+    row->addWidget(makeToolButton(redoAction));
+    row->addStretch();
+    return row;
+}
+
+QDialogButtonBox *PanelWindow::makeButtons()
+{
+    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
+    QPushButton *const reset = buttons->addButton(tr("Reset All"), QDialogButtonBox::ResetRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &PanelWindow::save);
+    connect(buttons, &QDialogButtonBox::rejected, this, &PanelWindow::cancel);
+    connect(reset, &QPushButton::clicked, this, &PanelWindow::resetAll);
+
+    auto *const saveAction = new QAction(tr("Save"), this);
+    saveAction->setShortcuts(QKeySequence::Save);
+    connect(saveAction, &QAction::triggered, this, &PanelWindow::save);
+    addAction(saveAction);
+    return buttons;
+}
+
+QScrollArea *PanelWindow::makeScrollArea()
+{
+    auto *const area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(m_panel);
+    return area;
+}
+
+QAction *PanelWindow::addUndoAction(QAction *action, const QString &shortText, const QString &icon)
+{
+    // The window commits what is being typed before the stack is asked.
+    disconnect(action, &QAction::triggered, m_stack, nullptr);
+    action->setIconText(shortText);
+    action->setIcon(QIcon::fromTheme(icon));
+    addAction(action);
+    return action;
+}
+
+void PanelWindow::followStack()
+{
+    connect(m_delegate, &PropertyHost::UndoDelegate::valueRestored, this,
+            [this] { m_panelIsStale = true; });
+    // Once for a step of many values.
+    connect(m_stack, &QUndoStack::indexChanged, this, [this] {
+        if (m_panelIsStale)
+            refresh();
+    });
+    connect(m_stack, &QUndoStack::cleanChanged, this,
+            [this](bool clean) { setWindowModified(!clean); });
+    connect(qApp, &QApplication::focusChanged, this, [this] { m_pending.commit(); });
+}
+
+void PanelWindow::refresh()
+{
+    m_panelIsStale = false;
+    m_panel->updateUI();
+    m_pending.noteShownValues();
+}
+
+void PanelWindow::showError(const QString &message)
+{
+    printError(QStringLiteral("property-panel: error: ") + message);
+    m_error->setText(message);
+    m_error->show();
+}
+
+void PanelWindow::askAboutChanges()
+{
+    if (m_question)
+        return;
+    m_question =
+        new QMessageBox(QMessageBox::Question, m_list.title(), tr("Save the changed values?"),
+                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    m_question->setInformativeText(tr("Changes that are not saved are lost."));
+    m_question->setDefaultButton(QMessageBox::Save);
+    m_question->setEscapeButton(QMessageBox::Cancel);
+    m_question->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_question, &QMessageBox::finished, this, &PanelWindow::answered);
+    m_question->open();
+}
+
+void PanelWindow::answered(int button)
+{
+    if (button == QMessageBox::Save)
+        save();
+    else if (button == QMessageBox::Discard)
+        finish(ExitStatus::Cancelled);
+}
+
+void PanelWindow::finish(ExitStatus status)
+{
+    if (m_finished)
+        return;
+    m_finished = true;
+    hide();
+    Q_EMIT finished(status);
+}
+
+} // namespace Tessark::PropertyPanel

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "ExitStatus.h"
+#include "PendingEdits.h"
+#include "ValuesWriter.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <optional>
+
+class QAction;
+class QBoxLayout;
+class QDialogButtonBox;
+class QLabel;
+class QMessageBox;
+class QScrollArea;
+class QUndoStack;
+
+namespace Tessark::PropertyUI {
+class PropertyEditorPanel;
+}
+
+namespace Tessark::PropertyHost {
+class PropertyList;
+class PropertyStore;
+class UndoDelegate;
+} // namespace Tessark::PropertyHost
+
+namespace Tessark::PropertyPanel {
+
+/**
+ * The program's window: a panel that scrolls, undo and redo, and the buttons Save, Cancel and
+ * "Reset All".
+ *
+ * Save writes the values and finishes; when that fails, the window stays and tells why. Cancel,
+ * Escape and closing the window are the same; they ask first when there are unsaved changes. Text
+ * that was typed but not committed counts as a change everywhere. The list and the store must
+ * outlive the window.
+ */
+class PanelWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::PropertyStore *store,
+                const ValuesWriter &writer);
+    ~PanelWindow() override;
+
+    /// True when the values differ from those that the window started with.
+    bool hasUnsavedChanges() const;
+
+    /// Large enough for the whole panel, if the screen is.
+    QSize sizeHint() const override;
+
+public Q_SLOTS:
+    void save();
+    void cancel();
+    void undo();
+    void redo();
+
+    /// Sets all values to their defaults, as one undo step.
+    void resetAll();
+
+Q_SIGNALS:
+    /// The values were written (ExitStatus::Saved) or given up (Cancelled). Emitted once; the
+    /// window is hidden by then.
+    void finished(Tessark::PropertyPanel::ExitStatus status);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    PropertyUI::PropertyEditorPanel *makePanel();
+    QBoxLayout *makeToolRow();
+    QDialogButtonBox *makeButtons();
+    QScrollArea *makeScrollArea();
+    QAction *addUndoAction(QAction *action, const QString &shortText, const QString &icon);
+
+    void followStack();
+    void refresh();
+    void showError(const QString &message);
+    void askAboutChanges();
+    void answered(int button);
+    void finish(ExitStatus status);
+
+    const PropertyHost::PropertyList &m_list;
+    PropertyHost::PropertyStore *m_store;
+    ValuesWriter m_writer;
+    QUndoStack *m_stack;
+    PropertyHost::UndoDelegate *m_delegate;
+    PropertyUI::PropertyEditorPanel *m_panel;
+    QScrollArea *m_scrollArea = nullptr;
+    QLabel *m_error = nullptr;
+    QPointer<QMessageBox> m_question;
+    PendingEdits m_pending;
+    bool m_panelIsStale = false; // undo or redo wrote values that the panel does not show yet
+    bool m_finished = false;
+};
+
+} // namespace Tessark::PropertyPanel

@@ -1,0 +1,104 @@
+#include "Program.h"
+
+#include "CommandLine.h"
+#include "Input.h"
+#include "LivePrinter.h"
+#include "PanelRenderer.h"
+#include "PanelWindow.h"
+#include "StandardStreams.h"
+
+#include <QApplication>
+
+namespace Tessark::PropertyPanel {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Program", text);
+}
+
+void printProblem(const QString &text)
+{
+    printError(QStringLiteral("property-panel: error: ") + text);
+}
+
+ExitStatus check(const Input &input)
+{
+    if (input.problems.isEmpty())
+        printLine(tr("no problems found"));
+    return input.hasErrors ? ExitStatus::BadInput : ExitStatus::Saved;
+}
+
+ExitStatus render(const Input &input, const Options &options)
+{
+    const RenderedPictures pictures =
+        renderPanel(input.list, *input.store, options.renderPath, options.size);
+    for (const QString &file : pictures.files)
+        printLine(file);
+    if (pictures.error.isEmpty())
+        return ExitStatus::Saved;
+    printProblem(pictures.error);
+    return ExitStatus::BadInput;
+}
+
+ExitStatus edit(const Input &input, const Options &options)
+{
+    const bool linesOnly = options.live && options.outputPath.isEmpty();
+    PanelWindow window(input.list, input.store.get(),
+                       ValuesWriter(options.outputPath, linesOnly
+                                                            ? ValuesWriter::Layout::OneLine
+                                                            : ValuesWriter::Layout::Indented));
+    if (options.live)
+        new LivePrinter(input.list, input.store.get(), &window);
+    // The window says how it ended; that it was the last one says nothing.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&window, &PanelWindow::finished, qApp,
+                     [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); });
+    window.resize(options.size.isValid() ? options.size : window.sizeHint());
+    window.show();
+    return static_cast<ExitStatus>(QApplication::exec());
+}
+
+ExitStatus runTask(const Options &options, Display display)
+{
+    const Input input = readInput(options);
+    for (const QString &problem : input.problems)
+        printError(problem);
+    if (options.task == Options::Task::Check)
+        return check(input);
+    if (input.hasErrors)
+        return ExitStatus::BadInput;
+    applyTheme(options.theme);
+    if (options.task == Options::Task::Render)
+        return render(input, options);
+    if (display == Display::Present)
+        return edit(input, options);
+    printProblem(tr("There is no display to show a window on. Use --render to draw the panel to "
+                    "PNG files, or --check to look for problems only."));
+    return ExitStatus::BadInput;
+}
+
+} // namespace
+
+ExitStatus runProgram(const QStringList &arguments, Display display)
+{
+    const CommandLine commandLine = parseCommandLine(arguments);
+    if (!commandLine.error.isEmpty()) {
+        printProblem(commandLine.error);
+        printError(tr("Try property-panel --help."));
+        return ExitStatus::BadInput;
+    }
+    switch (commandLine.options.task) {
+    case Options::Task::Help:
+        printLine(helpText());
+        return ExitStatus::Saved;
+    case Options::Task::Version:
+        printLine(QStringLiteral("property-panel ") + QCoreApplication::applicationVersion());
+        return ExitStatus::Saved;
+    default:
+        return runTask(commandLine.options, display);
+    }
+}
+
+} // namespace Tessark::PropertyPanel

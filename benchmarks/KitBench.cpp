@@ -3,6 +3,8 @@
 //
 //   bench-kit [REPETITIONS]
 
+#include "Measure.h"
+
 #include <core/DisclosureButton.h>
 #include <core/LogSlider.h>
 
@@ -12,7 +14,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <functional>
 #include <vector>
 
@@ -24,26 +25,14 @@ constexpr int kSetCalls = 100000;
 constexpr int kPaintCalls = 5000;
 constexpr QSize kButtonSize(16, 16);
 
-double processorSeconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
-}
-
 /// Nanoseconds of one call, over so many.
 double nanosecondsOf(int calls, const std::function<void(int)> &call)
 {
-    const double begin = processorSeconds();
-    for (int i = 0; i < calls; ++i)
-        call(i);
-    return (processorSeconds() - begin) * 1e9 / calls;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
+    const double seconds = secondsOf([&] {
+        for (int i = 0; i < calls; ++i)
+            call(i);
+    });
+    return seconds * 1e9 / calls;
 }
 
 /// Measures ours and Qt's by turns; prints the medians and the median of the ratios.

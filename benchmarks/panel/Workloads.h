@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QStringList>
+
+#include <map>
+
+/// Cost by name of workload: processor time in seconds of one operation, bytes for "memory".
+using Costs = std::map<QString, double>;
+
+/// The workloads in the order of reports.
+QStringList workloads();
+
+/// Measures one subject, "bare" or "panel", in this process.
+Costs measure(const QString &subject, int rows);

@@ -171,3 +171,37 @@ Costs measure(const QString &subject, int rows)
     measureLife(subject, rows, costs);
     return costs;
 }
+
+bool repeat(const QString &subject, int rows, const QString &workload, int times)
+{
+    warmUp(subject);
+    if (workload == QLatin1String("build")) {
+        for (int i = 0; i < times; ++i)
+            make(subject, rows);
+        return true;
+    }
+    const std::unique_ptr<Subject> live = make(subject, rows);
+    live->window().show();
+    settle();
+    const auto drag = [&](Echo echo) {
+        dragStep(*live, times, echo);
+        return true;
+    };
+    if (workload == QLatin1String("edit"))
+        return drag(Echo::None);
+    if (workload == QLatin1String("edit_echo_one"))
+        return drag(Echo::One);
+    if (workload == QLatin1String("edit_echo_all"))
+        return drag(Echo::All);
+    std::function<void(int)> operation;
+    if (workload == QLatin1String("refresh"))
+        operation = [&](int i) { live->refresh(i % 2 + 1); };
+    else if (workload == QLatin1String("refresh_same"))
+        operation = [&](int) { live->refresh(0); };
+    else if (workload == QLatin1String("expand"))
+        operation = [&](int i) { live->setExpanded(i % 2 == 1); };
+    else
+        return false;
+    medianOf(times, operation);
+    return true;
+}

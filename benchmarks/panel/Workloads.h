@@ -12,3 +12,7 @@ QStringList workloads();
 
 /// Measures one subject, "bare" or "panel", in this process.
 Costs measure(const QString &subject, int rows);
+
+/// Runs one workload some times in this process and measures nothing: to be counted or profiled from
+/// outside. False for a name that is none of workloads().
+bool repeat(const QString &subject, int rows, const QString &workload, int times);

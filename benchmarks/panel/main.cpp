@@ -154,12 +154,23 @@ int main(int argc, char **argv)
         {QStringLiteral("json"), QStringLiteral("Print JSON.")},
         {QStringLiteral("measure"), QStringLiteral("Measure one subject in this process."),
          QStringLiteral("bare|panel")},
+        {QStringLiteral("workload"),
+         QStringLiteral("With --measure: run this one only, to be profiled from outside."),
+         QStringLiteral("NAME")},
+        {QStringLiteral("times"), QStringLiteral("How often the one workload runs."),
+         QStringLiteral("COUNT"), QStringLiteral("1")},
     });
     parser.process(application);
 
     std::vector<int> sizes;
     for (const QString &size : parser.value(QStringLiteral("rows")).split(QLatin1Char(',')))
         sizes.push_back(std::max(size.toInt(), 2));
+    if (parser.isSet(QStringLiteral("workload"))) {
+        const bool known = repeat(parser.value(QStringLiteral("measure")), sizes.front(),
+                                  parser.value(QStringLiteral("workload")),
+                                  parser.value(QStringLiteral("times")).toInt());
+        return known ? 0 : 1;
+    }
     if (parser.isSet(QStringLiteral("measure"))) {
         const Costs costs = measure(parser.value(QStringLiteral("measure")), sizes.front());
         std::printf("%s", QJsonDocument(toJson(costs)).toJson().constData());

@@ -118,6 +118,7 @@ private:
         }
         if (!page)
             return;
+        m_panel->m_layout->removeWidget(page); // where it was added as a row
         m_tabWidget->addTab(page, label);
         m_panel->m_layout = new PropertyLayout(kRowSpacing);
         page->setLayout(m_panel->m_layout);

@@ -2,8 +2,10 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
+#include <QButtonGroup>
 #include <QHBoxLayout>
 
 #include <algorithm>
@@ -79,13 +81,25 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     return row;
 }
 
-void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
+void announceDrags(QAbstractSlider *slider, PropertyEditor *editor)
 {
-    slider->installEventFilter(editor);
     QObject::connect(slider, &QAbstractSlider::sliderPressed, editor,
                      &PropertyEditor::startInteractiveChange);
     QObject::connect(slider, &QAbstractSlider::sliderReleased, editor,
                      &PropertyEditor::endInteractiveChange);
+}
+
+void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
+{
+    slider->installEventFilter(editor);
+    announceDrags(slider, editor);
+}
+
+void checkButton(QButtonGroup &group, int id)
+{
+    const QSignalBlocker blocker(&group);
+    if (QAbstractButton *button = group.button(id))
+        button->setChecked(true);
 }
 
 void setCompactSize(QAbstractSpinBox *spinBox)

@@ -11,6 +11,7 @@
 
 class QAbstractSlider;
 class QAbstractSpinBox;
+class QButtonGroup;
 class QWidget;
 
 namespace Tessark::PropertyUI {
@@ -68,8 +69,15 @@ int hundredthOf(int minimum, int maximum);
 /// A parentless row without margins holding the controls from left to right; it owns them.
 QWidget *makeRow(std::initializer_list<QWidget *> controls);
 
-/// Makes a drag of slider one interactive run of editor, and lets editor filter its events.
+/// Makes a drag of slider one interactive run of editor.
+void announceDrags(QAbstractSlider *slider, PropertyEditor *editor);
+
+/// The same, and lets editor filter the slider's events.
 void watchSlider(QAbstractSlider *slider, PropertyEditor *editor);
+
+/// Checks the button of that id without a signal of the group, as a host's value does; an id that
+/// no button has changes nothing.
+void checkButton(QButtonGroup &group, int id);
 
 /// Fixes the entry field at the width that goes beside a slider, and at its own height.
 void setCompactSize(QAbstractSpinBox *spinBox);

@@ -8,6 +8,7 @@
 #include "property/editors/FilenamePropertyEditor.h"
 #include "property/editors/FloatPropertyEditor.h"
 #include "property/editors/GroupPropertyEditor.h"
+#include "property/editors/ImageFormatEditor.h"
 #include "property/editors/IntegerPropertyEditor.h"
 #include "property/editors/PercentPropertyEditor.h"
 #include "property/editors/SeparatorPropertyEditor.h"
@@ -51,6 +52,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeTab, TabPropertyEditor::Factory},
         {kPropertyTypeFilename, FilenamePropertyEditor::Factory},
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
+        {kPropertyTypeImageFormat, ImageFormatEditor::Factory},
     };
     for (const Registration &registration : registrations) {
         PropertyEditorRegistry::Instance()->registerPropertyEditor(registration.type,

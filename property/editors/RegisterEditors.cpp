@@ -16,6 +16,7 @@
 #include "property/editors/StringPropertyEditor.h"
 #include "property/editors/TabPropertyEditor.h"
 #include "property/editors/TextPropertyEditor.h"
+#include "property/editors/TexturePropertyEditor.h"
 #include "property/editors/VecPropertyEditor.h"
 
 namespace Tessark::PropertyUI {
@@ -53,6 +54,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeFilename, FilenamePropertyEditor::Factory},
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
         {kPropertyTypeImageFormat, ImageFormatEditor::Factory},
+        {kPropertyTypeTexture, TexturePropertyEditor::Factory},
     };
     for (const Registration &registration : registrations) {
         PropertyEditorRegistry::Instance()->registerPropertyEditor(registration.type,

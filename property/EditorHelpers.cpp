@@ -58,6 +58,14 @@ int toSaturatedInt(const QVariant &value)
     }
 }
 
+QSize toSaturatedSize(const QVariant &value)
+{
+    if (value.userType() != QMetaType::QSizeF)
+        return value.toSize();
+    const QSizeF size = value.toSizeF();
+    return {toSaturatedInt(size.width()), toSaturatedInt(size.height())};
+}
+
 double finite(double number)
 {
     if (std::isnan(number))

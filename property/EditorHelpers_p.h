@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QSize>
 
 #include <functional>
 #include <initializer_list>
@@ -59,6 +60,10 @@ int sliderPosition(double number);
 
 /// The variant as int. Numbers beyond int saturate and NaN gives 0; all else is QVariant::toInt().
 int toSaturatedInt(const QVariant &value);
+
+/// The variant as a size, its fractions rounded and saturated as above; what is no size gives an
+/// invalid one.
+QSize toSaturatedSize(const QVariant &value);
 
 /// The number as an entry field can take it: NaN gives 0, an infinity the largest finite number.
 double finite(double number);

@@ -11,7 +11,9 @@
 #include "property/editors/ImageFormatEditor.h"
 #include "property/editors/IntegerPropertyEditor.h"
 #include "property/editors/PercentPropertyEditor.h"
+#include "property/editors/RenderSizePropertyEditor.h"
 #include "property/editors/SeparatorPropertyEditor.h"
+#include "property/editors/SizePropertyEditor.h"
 #include "property/editors/StaticTextPropertyEditor.h"
 #include "property/editors/StringPropertyEditor.h"
 #include "property/editors/TabPropertyEditor.h"
@@ -45,6 +47,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeVec2, Vec2PropertyEditor::Factory},
         {kPropertyTypeVec3, Vec3PropertyEditor::Factory},
         {kPropertyTypeVec4, Vec4PropertyEditor::Factory},
+        {kPropertyTypeSize, SizePropertyEditor::Factory},
         {kPropertyTypeBeginGroup, GroupPropertyEditor::Factory},
         {kPropertyTypeEndGroup, GroupPropertyEditor::Factory},
         {kPropertyTypeBeginTabGroup, TabPropertyEditor::Factory},
@@ -52,6 +55,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeTab, TabPropertyEditor::Factory},
         {kPropertyTypeFilename, FilenamePropertyEditor::Factory},
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
+        {kPropertyTypeRenderSize, RenderSizePropertyEditor::Factory},
         {kPropertyTypeImageFormat, ImageFormatEditor::Factory},
     };
     for (const Registration &registration : registrations) {

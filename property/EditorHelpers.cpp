@@ -7,6 +7,7 @@
 #include <QAbstractSpinBox>
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QLabel>
 
 #include <algorithm>
 #include <cmath>
@@ -87,6 +88,13 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     for (QWidget *control : controls)
         layout->addWidget(control);
     return row;
+}
+
+void applyAlignmentHint(QLabel *label, const Property &property)
+{
+    const QVariant alignment = property.hint(kPropertyHintAlignment);
+    if (alignment.isValid())
+        label->setAlignment(Qt::Alignment(QFlag(alignment.toInt())));
 }
 
 void announceDrags(QAbstractSlider *slider, PropertyEditor *editor)

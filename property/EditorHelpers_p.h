@@ -13,6 +13,7 @@
 class QAbstractSlider;
 class QAbstractSpinBox;
 class QButtonGroup;
+class QLabel;
 class QWidget;
 
 namespace Tessark::PropertyUI {
@@ -73,6 +74,9 @@ int hundredthOf(int minimum, int maximum);
 
 /// A parentless row without margins holding the controls from left to right; it owns them.
 QWidget *makeRow(std::initializer_list<QWidget *> controls);
+
+/// Aligns the label as the "alignment" hint says (int, a set of Qt::Alignment bits), if there is one.
+void applyAlignmentHint(QLabel *label, const Property &property);
 
 /// Makes a drag of slider one interactive run of editor.
 void announceDrags(QAbstractSlider *slider, PropertyEditor *editor);

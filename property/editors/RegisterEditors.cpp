@@ -9,6 +9,7 @@
 #include "property/editors/FloatPropertyEditor.h"
 #include "property/editors/GroupPropertyEditor.h"
 #include "property/editors/ImageFormatEditor.h"
+#include "property/editors/ImagePropertyEditor.h"
 #include "property/editors/IntegerPropertyEditor.h"
 #include "property/editors/PercentPropertyEditor.h"
 #include "property/editors/RenderSizePropertyEditor.h"
@@ -39,6 +40,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeFloat, FloatPropertyEditor::Factory},
         {kPropertyTypePercent, PercentPropertyEditor::Factory},
         {kPropertyTypeBoolean, BooleanPropertyEditor::Factory},
+        {kPropertyTypeImage, ImagePropertyEditor::Factory},
         {kPropertyTypeStaticText, StaticTextPropertyEditor::Factory},
         {kPropertyTypeString, StringPropertyEditor::Factory},
         {kPropertyTypeText, TextPropertyEditor::Factory},

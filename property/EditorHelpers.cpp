@@ -7,6 +7,7 @@
 #include <QAbstractSpinBox>
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QLabel>
 
 #include <algorithm>
 #include <cmath>
@@ -58,6 +59,14 @@ int toSaturatedInt(const QVariant &value)
     }
 }
 
+QSize toSaturatedSize(const QVariant &value)
+{
+    if (value.userType() != QMetaType::QSizeF)
+        return value.toSize();
+    const QSizeF size = value.toSizeF();
+    return {toSaturatedInt(size.width()), toSaturatedInt(size.height())};
+}
+
 double finite(double number)
 {
     if (std::isnan(number))
@@ -79,6 +88,13 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     for (QWidget *control : controls)
         layout->addWidget(control);
     return row;
+}
+
+void applyAlignmentHint(QLabel *label, const Property &property)
+{
+    const QVariant alignment = property.hint(kPropertyHintAlignment);
+    if (alignment.isValid())
+        label->setAlignment(Qt::Alignment(QFlag(alignment.toInt())));
 }
 
 void announceDrags(QAbstractSlider *slider, PropertyEditor *editor)

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QSize>
 
 #include <functional>
 #include <initializer_list>
@@ -12,6 +13,7 @@
 class QAbstractSlider;
 class QAbstractSpinBox;
 class QButtonGroup;
+class QLabel;
 class QWidget;
 
 namespace Tessark::PropertyUI {
@@ -60,6 +62,10 @@ int sliderPosition(double number);
 /// The variant as int. Numbers beyond int saturate and NaN gives 0; all else is QVariant::toInt().
 int toSaturatedInt(const QVariant &value);
 
+/// The variant as a size, its fractions rounded and saturated as above; what is no size gives an
+/// invalid one.
+QSize toSaturatedSize(const QVariant &value);
+
 /// The number as an entry field can take it: NaN gives 0, an infinity the largest finite number.
 double finite(double number);
 
@@ -68,6 +74,9 @@ int hundredthOf(int minimum, int maximum);
 
 /// A parentless row without margins holding the controls from left to right; it owns them.
 QWidget *makeRow(std::initializer_list<QWidget *> controls);
+
+/// Aligns the label as the "alignment" hint says (int, a set of Qt::Alignment bits), if there is one.
+void applyAlignmentHint(QLabel *label, const Property &property);
 
 /// Makes a drag of slider one interactive run of editor.
 void announceDrags(QAbstractSlider *slider, PropertyEditor *editor);

@@ -500,14 +500,7 @@ void tst_SizeFields::hostMayDeleteTheEditorInAnySignal()
     subject.build();
     subject.show();
     subject.width->clearFocus();
-    const PropertyEditor *editor = subject.editor.get();
-    const auto deleteEditor = [&] { subject.editor.reset(); };
-    if (signal == QLatin1String("start"))
-        connect(editor, &PropertyEditor::startInteractiveChange, qApp, deleteEditor);
-    else if (signal == QLatin1String("value"))
-        connect(editor, &PropertyEditor::valueChanged, qApp, deleteEditor);
-    else
-        connect(editor, &PropertyEditor::endInteractiveChange, qApp, deleteEditor);
+    onSignal(subject.editor.get(), signal, [&] { subject.editor.reset(); });
 
     subject.width->setFocus();
     SizeSubject::type(subject.width, QStringLiteral("6"));

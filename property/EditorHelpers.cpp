@@ -1,5 +1,6 @@
 #include "property/EditorHelpers_p.h"
 
+#include "core/DisclosureButton.h"
 #include "property/PropertyEditor.h"
 
 #include <QAbstractButton>
@@ -116,6 +117,15 @@ void checkButton(QButtonGroup &group, int id)
     const QSignalBlocker blocker(&group);
     if (QAbstractButton *button = group.button(id))
         button->setChecked(true);
+}
+
+UI::DisclosureButton *makeRoundButton()
+{
+    auto *const button = new UI::DisclosureButton(nullptr, true);
+    button->setCheckable(true);
+    button->setChecked(false);
+    button->setProperty("group", QStringLiteral("round"));
+    return button;
 }
 
 void setCompactSize(QAbstractSpinBox *spinBox)

@@ -16,6 +16,10 @@ class QButtonGroup;
 class QLabel;
 class QWidget;
 
+namespace Tessark::UI {
+class DisclosureButton;
+}
+
 namespace Tessark::PropertyUI {
 
 class PropertyEditor;
@@ -87,6 +91,9 @@ void watchSlider(QAbstractSlider *slider, PropertyEditor *editor);
 /// Checks the button of that id without a signal of the group, as a host's value does; an id that
 /// no button has changes nothing.
 void checkButton(QButtonGroup &group, int id);
+
+/// A round button, unchecked and without parent, that unfolds part of an editor.
+UI::DisclosureButton *makeRoundButton();
 
 /// Fixes the entry field at the width that goes beside a slider, and at its own height.
 void setCompactSize(QAbstractSpinBox *spinBox);

@@ -20,6 +20,7 @@
 #include "property/editors/TabPropertyEditor.h"
 #include "property/editors/TextPropertyEditor.h"
 #include "property/editors/TexturePropertyEditor.h"
+#include "property/editors/Transform2DPropertyEditor.h"
 #include "property/editors/VecPropertyEditor.h"
 
 namespace Tessark::PropertyUI {
@@ -60,6 +61,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
         {kPropertyTypeRenderSize, RenderSizePropertyEditor::Factory},
         {kPropertyTypeImageFormat, ImageFormatEditor::Factory},
+        {kPropertyTypeTransform2D, Transform2DPropertyEditor::Factory},
         {kPropertyTypeTexture, TexturePropertyEditor::Factory},
     };
     for (const Registration &registration : registrations) {

@@ -86,6 +86,11 @@ void tst_BuiltInList::everyHintIsUsed_data()
     row(kPropertyTypeSize, kPropertyHintAspectRatio);
     row(kPropertyTypeRenderSize, kPropertyHintAspectRatio);
     row(kPropertyTypeRenderSize, kPropertyHintFullSize);
+    row(kPropertyTypeTransform2D, kPropertyHintXfrmNoRotation);
+    row(kPropertyTypeTransform2D, kPropertyHintXfrmNoPosition);
+    row(kPropertyTypeTransform2D, kPropertyHintXfrmNoScale);
+    row(kPropertyTypeTransform2D, kPropertyHintXfrmUniformScale);
+    row(kPropertyTypeTransform2D, kPropertyHintXfrmCollapsibleScale);
     row(kPropertyTypeTexture, QStringLiteral("textures"));
 }
 

@@ -1,8 +1,10 @@
 #include <host/HostHints.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <host/ValueJson.h>
 #include <property/PropertyUI.h>
 #include <property/TextureChoice.h>
+#include <property/editors/ImagePropertyEditor.h>
 #include <tools/property-panel/PanelWindow.h>
 
 #include <support/FileDrag.h>
@@ -34,6 +36,7 @@ using namespace Tessark::PropertyPanel;
 using namespace Tessark::PropertyUI;
 using Tessark::PropertyHost::PropertyList;
 using Tessark::PropertyHost::PropertyStore;
+using Tessark::PropertyHost::valueFromJson;
 
 class tst_PanelWindow : public QObject
 {
@@ -70,6 +73,7 @@ private Q_SLOTS:
     void pickedTextureIsAStep();
     void resetAllShowsTheDefaultTexture();
     void resetAllToNoTexture();
+    void pictureGoesBackToItsDefault();
     void droppedPicturesAreNoChange();
     void unreadableDropsAreShown();
     void groupOnATabPageFolds();
@@ -579,6 +583,35 @@ void tst_PanelWindow::resetAllToNoTexture()
     QVERIFY(list->selectedItems().isEmpty());
     m_window->save();
     QCOMPARE(saved().value(QStringLiteral("floor")), QJsonValue(QString()));
+}
+
+void tst_PanelWindow::pictureGoesBackToItsDefault()
+{
+    const auto write = [this](const char *name, Qt::GlobalColor color) {
+        QImage image(4, 4, QImage::Format_RGB32);
+        image.fill(color);
+        return image.save(m_folder->filePath(QLatin1String(name)));
+    };
+    QVERIFY(write("red.png", Qt::red) && write("blue.png", Qt::blue));
+    const Property image(QStringLiteral("image"), QStringLiteral("Image"), kPropertyTypeImage);
+    m_list->setFolder(m_folder->path());
+    QString error;
+    m_list->append(image).setDefaultValue(
+        *valueFromJson(image, QStringLiteral("red.png"), error, m_folder->path()));
+    m_store->reset(*m_list);
+    QVERIFY(m_store->readValues(R"({"image": "blue.png"})", *m_list).isEmpty());
+    show();
+    QCOMPARE(m_store->toJson(*m_list).value(QStringLiteral("image")),
+             QJsonValue(QStringLiteral("blue.png")));
+
+    m_window->findChild<ImagePropertyEditor *>()->revertToDefaultValue();
+    QCOMPARE(m_store->toJson(*m_list).value(QStringLiteral("image")),
+             QJsonValue(QStringLiteral("red.png")));
+
+    m_window->undo();
+    QCOMPARE(m_store->toJson(*m_list).value(QStringLiteral("image")),
+             QJsonValue(QStringLiteral("blue.png")));
+    QVERIFY(!m_window->hasUnsavedChanges());
 }
 
 void tst_PanelWindow::droppedPicturesAreNoChange()

@@ -87,6 +87,8 @@ void TextureChoices::fill(Row &row)
         addOnce(row.textures, textureOf(texture));
     addOnce(row.textures, textureOf(property->defaultValue));
     show(row);
+    // A path says most at its ends.
+    listOf(row.editor)->setTextElideMode(Qt::ElideMiddle);
     row.editor->setAcceptUrlsDrops(true);
     // After the panel, which has told the delegate by then.
     connect(row.editor, &PropertyEditor::valueChanged, this,

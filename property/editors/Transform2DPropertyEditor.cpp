@@ -147,7 +147,9 @@ void Transform2DPropertyEditor::setScaleExpanded(bool expanded)
         copyScaleXToY();
         Q_EMIT valueChanged();
     }
-    if (self && button && button->isChecked() != expanded)
+    // A slot may have unfolded the row again; then this call is out of date.
+    if (self && button && m_spinBoxes[scaleYRow()]->isHidden() != expanded
+        && button->isChecked() != expanded)
         setQuietly(button.data(), &UI::DisclosureButton::setChecked, expanded);
 }
 

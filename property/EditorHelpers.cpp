@@ -1,5 +1,6 @@
 #include "property/EditorHelpers_p.h"
 
+#include "core/DisclosureButton.h"
 #include "property/PropertyEditor.h"
 
 #include <QAbstractSlider>
@@ -86,6 +87,15 @@ void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
                      &PropertyEditor::startInteractiveChange);
     QObject::connect(slider, &QAbstractSlider::sliderReleased, editor,
                      &PropertyEditor::endInteractiveChange);
+}
+
+UI::DisclosureButton *makeRoundButton()
+{
+    auto *const button = new UI::DisclosureButton(nullptr, true);
+    button->setCheckable(true);
+    button->setChecked(false);
+    button->setProperty("group", QStringLiteral("round"));
+    return button;
 }
 
 void setCompactSize(QAbstractSpinBox *spinBox)

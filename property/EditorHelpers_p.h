@@ -13,6 +13,10 @@ class QAbstractSlider;
 class QAbstractSpinBox;
 class QWidget;
 
+namespace Tessark::UI {
+class DisclosureButton;
+}
+
 namespace Tessark::PropertyUI {
 
 class PropertyEditor;
@@ -70,6 +74,9 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls);
 
 /// Makes a drag of slider one interactive run of editor, and lets editor filter its events.
 void watchSlider(QAbstractSlider *slider, PropertyEditor *editor);
+
+/// A round button, unchecked and without parent, that unfolds part of an editor.
+UI::DisclosureButton *makeRoundButton();
 
 /// Fixes the entry field at the width that goes beside a slider, and at its own height.
 void setCompactSize(QAbstractSpinBox *spinBox);

@@ -15,6 +15,7 @@
 #include "property/editors/StringPropertyEditor.h"
 #include "property/editors/TabPropertyEditor.h"
 #include "property/editors/TextPropertyEditor.h"
+#include "property/editors/Transform2DPropertyEditor.h"
 #include "property/editors/VecPropertyEditor.h"
 
 namespace Tessark::PropertyUI {
@@ -51,6 +52,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeTab, TabPropertyEditor::Factory},
         {kPropertyTypeFilename, FilenamePropertyEditor::Factory},
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
+        {kPropertyTypeTransform2D, Transform2DPropertyEditor::Factory},
     };
     for (const Registration &registration : registrations) {
         PropertyEditorRegistry::Instance()->registerPropertyEditor(registration.type,

@@ -8,14 +8,19 @@
 #include "property/editors/FilenamePropertyEditor.h"
 #include "property/editors/FloatPropertyEditor.h"
 #include "property/editors/GroupPropertyEditor.h"
+#include "property/editors/ImageFormatEditor.h"
+#include "property/editors/ImagePropertyEditor.h"
 #include "property/editors/IntegerPropertyEditor.h"
 #include "property/editors/PercentPropertyEditor.h"
+#include "property/editors/RenderSizePropertyEditor.h"
 #include "property/editors/SeparatorPropertyEditor.h"
+#include "property/editors/SizePropertyEditor.h"
 #include "property/editors/StaticTextPropertyEditor.h"
 #include "property/editors/StringPropertyEditor.h"
 #include "property/editors/TabPropertyEditor.h"
 #include "property/editors/TextPropertyEditor.h"
 #include "property/editors/TexturePropertyEditor.h"
+#include "property/editors/Transform2DPropertyEditor.h"
 #include "property/editors/VecPropertyEditor.h"
 
 namespace Tessark::PropertyUI {
@@ -37,6 +42,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeFloat, FloatPropertyEditor::Factory},
         {kPropertyTypePercent, PercentPropertyEditor::Factory},
         {kPropertyTypeBoolean, BooleanPropertyEditor::Factory},
+        {kPropertyTypeImage, ImagePropertyEditor::Factory},
         {kPropertyTypeStaticText, StaticTextPropertyEditor::Factory},
         {kPropertyTypeString, StringPropertyEditor::Factory},
         {kPropertyTypeText, TextPropertyEditor::Factory},
@@ -45,6 +51,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeVec2, Vec2PropertyEditor::Factory},
         {kPropertyTypeVec3, Vec3PropertyEditor::Factory},
         {kPropertyTypeVec4, Vec4PropertyEditor::Factory},
+        {kPropertyTypeSize, SizePropertyEditor::Factory},
         {kPropertyTypeBeginGroup, GroupPropertyEditor::Factory},
         {kPropertyTypeEndGroup, GroupPropertyEditor::Factory},
         {kPropertyTypeBeginTabGroup, TabPropertyEditor::Factory},
@@ -52,6 +59,9 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeTab, TabPropertyEditor::Factory},
         {kPropertyTypeFilename, FilenamePropertyEditor::Factory},
         {kPropertyTypeAction, ActionPropertyEditor::Factory},
+        {kPropertyTypeRenderSize, RenderSizePropertyEditor::Factory},
+        {kPropertyTypeImageFormat, ImageFormatEditor::Factory},
+        {kPropertyTypeTransform2D, Transform2DPropertyEditor::Factory},
         {kPropertyTypeTexture, TexturePropertyEditor::Factory},
     };
     for (const Registration &registration : registrations) {

@@ -19,6 +19,7 @@
 #include "property/editors/StringPropertyEditor.h"
 #include "property/editors/TabPropertyEditor.h"
 #include "property/editors/TextPropertyEditor.h"
+#include "property/editors/TexturePropertyEditor.h"
 #include "property/editors/Transform2DPropertyEditor.h"
 #include "property/editors/VecPropertyEditor.h"
 
@@ -61,6 +62,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeRenderSize, RenderSizePropertyEditor::Factory},
         {kPropertyTypeImageFormat, ImageFormatEditor::Factory},
         {kPropertyTypeTransform2D, Transform2DPropertyEditor::Factory},
+        {kPropertyTypeTexture, TexturePropertyEditor::Factory},
     };
     for (const Registration &registration : registrations) {
         PropertyEditorRegistry::Instance()->registerPropertyEditor(registration.type,

@@ -109,9 +109,8 @@ void DropAcceptingListWidget::dragMoveEvent(QDragMoveEvent *event)
 
 void DropAcceptingListWidget::dragLeaveEvent(QDragLeaveEvent *event)
 {
-    const bool forBase = !isTaken() && acceptDrops();
     endDrag();
-    if (forBase)
+    if (acceptDrops())
         QListWidget::dragLeaveEvent(event);
 }
 

@@ -112,13 +112,6 @@ void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
     announceDrags(slider, editor);
 }
 
-void checkButton(QButtonGroup &group, int id)
-{
-    const QSignalBlocker blocker(&group);
-    if (QAbstractButton *button = group.button(id))
-        button->setChecked(true);
-}
-
 UI::DisclosureButton *makeRoundButton()
 {
     auto *const button = new UI::DisclosureButton(nullptr, true);
@@ -126,6 +119,13 @@ UI::DisclosureButton *makeRoundButton()
     button->setChecked(false);
     button->setProperty("group", QStringLiteral("round"));
     return button;
+}
+
+void checkButton(QButtonGroup &group, int id)
+{
+    const QSignalBlocker blocker(&group);
+    if (QAbstractButton *button = group.button(id))
+        button->setChecked(true);
 }
 
 void setCompactSize(QAbstractSpinBox *spinBox)

@@ -88,12 +88,12 @@ void announceDrags(QAbstractSlider *slider, PropertyEditor *editor);
 /// The same, and lets editor filter the slider's events.
 void watchSlider(QAbstractSlider *slider, PropertyEditor *editor);
 
+/// A round button, unchecked and without parent, that unfolds part of an editor.
+UI::DisclosureButton *makeRoundButton();
+
 /// Checks the button of that id without a signal of the group, as a host's value does; an id that
 /// no button has changes nothing.
 void checkButton(QButtonGroup &group, int id);
-
-/// A round button, unchecked and without parent, that unfolds part of an editor.
-UI::DisclosureButton *makeRoundButton();
 
 /// Fixes the entry field at the width that goes beside a slider, and at its own height.
 void setCompactSize(QAbstractSpinBox *spinBox);

@@ -114,6 +114,16 @@ struct PropertyLayout::Row
     bool expandsVertically = false;
 };
 
+/// Where a row goes, as if it were read from left to right.
+struct PropertyLayout::RowPlace
+{
+    qint64 left = 0;
+    qint64 top = 0;
+    int labelWidth = 0;
+    qint64 fullWidth = 0;  // of the whole layout, margins included
+    bool mirrored = false; // within fullWidth
+};
+
 bool PropertyLayout::Entry::expandsHorizontally() const
 {
     if (options & ExpandHorizontal)
@@ -329,7 +339,12 @@ QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
     total.spareHeight = qint64(rect.height()) - total.fixedHeight - margins.top() - margins.bottom()
                         - m_verticalSpacing;
 
-    qint64 y = margins.top(); // not the rectangle's own top: see the class comment
+    const QWidget *const host = parentWidget();
+    RowPlace place;
+    place.top = margins.top(); // not the rectangle's own top: see the class comment
+    place.labelWidth = total.labelWidth;
+    place.fullWidth = rect.width();
+    place.mirrored = host && host->isRightToLeft();
     qint64 depth = 0;
     Row row;
     for (std::size_t i = 0; i < m_items.size(); ++i) {
@@ -343,15 +358,15 @@ QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
         beginRowAt(i, total.labelWidth, row);
         if (!endsRow(i))
             continue;
-        const qint64 left = qint64(margins.left()) + groupIndent(depth);
-        sizeRow(row, qint64(rect.width()) - left - margins.right(), total);
-        if (!testOnly && !placeRow(row, left, y, total.labelWidth))
+        place.left = qint64(margins.left()) + groupIndent(depth);
+        sizeRow(row, qint64(rect.width()) - place.left - margins.right(), total);
+        if (!testOnly && !placeRow(row, place))
             return {};
-        y += qint64(row.height) + m_verticalSpacing;
+        place.top += qint64(row.height) + m_verticalSpacing;
     }
     return {saturated(total.fieldWidth + total.labelWidth + margins.left() + m_labelSpacing
                       + margins.right()),
-            saturated(y - m_verticalSpacing + margins.bottom())};
+            saturated(place.top - m_verticalSpacing + margins.bottom())};
 }
 
 bool PropertyLayout::endsRow(std::size_t index) const
@@ -464,25 +479,26 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
 
 /// Gives the items of row their rectangles. False when one of them made the host change the list or
 /// delete the layout: row and the caller's indexes are void then, and nothing may be touched.
-bool PropertyLayout::placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const
+bool PropertyLayout::placeRow(const Row &row, const RowPlace &place) const
 {
     const QPointer<const PropertyLayout> self(this);
     const quint32 revision = m_revision;
-    qint64 x = left;
+    qint64 x = place.left;
     for (std::size_t i = row.first; i <= row.last; ++i) {
         const Entry &entry = m_items[i];
         const bool isRowLabel = i == row.first && !(entry.options & FullWidth);
         if (isRowLabel)
-            x += qint64(labelWidth) - entry.width;
+            x += qint64(place.labelWidth) - entry.width;
         // A fixed item keeps its size-hint height even where its maximum made the row lower.
         const bool fillsRow = entry.expandsVertically();
         const int height = fillsRow ? row.height : entry.height;
-        const qint64 y = fillsRow ? top : top + (qint64(row.height) - height) / 2;
-        entry.item->setGeometry(rectangle(x, y, entry.width, height));
+        const qint64 y = fillsRow ? place.top : place.top + (qint64(row.height) - height) / 2;
+        const qint64 left = place.mirrored ? place.fullWidth - x - entry.width : x;
+        entry.item->setGeometry(rectangle(left, y, entry.width, height));
         if (!self || m_revision != revision)
             return false;
         if (isRowLabel)
-            x = left + labelWidth + m_labelSpacing;
+            x = place.left + place.labelWidth + m_labelSpacing;
         else // hidden entries too: they take the place of their last width
             x += qint64(entry.width) + m_horizontalSpacing;
     }

@@ -19,6 +19,8 @@ namespace Tessark::PropertyUI {
  * "endGroup" (both bool, read when it is added). A widget whose size policy is exactly
  * QSizePolicy::Expanding in a direction counts as expanding in it.
  *
+ * Where the parent widget reads from right to left, rows are mirrored.
+ *
  * The contents margins are 4 on every side unless a host sets others. The layout is meant to be the
  * top-level layout of its widget: items are placed from the origin, wherever the rectangle lies. It
  * owns its items. Both size hints are computed once and kept until the next item is added.
@@ -102,6 +104,7 @@ private:
     };
     struct Measure;
     struct Row;
+    struct RowPlace;
 
     void initialise(int spacing);
     void addChildItem(QWidget *widget, LayoutOptions options);
@@ -110,7 +113,7 @@ private:
     void beginRowAt(std::size_t index, int labelWidth, Row &row) const;
     void sizeRow(Row &row, qint64 rowSpace, Measure &measure) const;
     void sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const;
-    bool placeRow(const Row &row, qint64 left, qint64 top, int labelWidth) const;
+    bool placeRow(const Row &row, const RowPlace &place) const;
     std::size_t indexAfter(const QLayoutItem *item, std::size_t index) const;
 
     mutable std::deque<Entry> m_items; // measuring and placing note sizes here

@@ -14,13 +14,9 @@ namespace {
 constexpr int kSignificantDigits = 6;
 constexpr int kMatrixSize = 3;
 
-// Known by name from the moment the library is loaded. "QMatrix3x3" is only an alias: Qt uses the
-// same name for its float matrix, so code tells the type by its C++ name.
-[[maybe_unused]] const bool s_valueTypesRegistered = [] {
+// Known by name from the moment the library is loaded.
+[[maybe_unused]] const int s_textureChoiceType =
     qRegisterMetaType<TextureChoice>("Tessark::PropertyUI::TextureChoice");
-    qRegisterMetaType<DoubleMatrix3x3>("QMatrix3x3");
-    return true;
-}();
 
 QString joined(std::initializer_list<double> numbers)
 {

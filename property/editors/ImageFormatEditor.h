@@ -25,8 +25,8 @@ struct TESSARK_PROPERTY_EXPORT ImageFormatDesc
 };
 
 /**
- * Edits an "image_format" property: a radio button for each file format and, while "jpeg" is
- * chosen, a slider and an entry field for its quality.
+ * Edits an "image_format" property: a radio button for each file format and, at first and while
+ * the format is "jpeg", a slider and an entry field for its quality.
  *
  * Value: ImageFormatDesc. Its format is empty while no button is checked, as at first; its rate is
  * what the entry field shows, whatever the format. Before the widget exists it is a default one. No
@@ -63,7 +63,7 @@ private:
 
     const QStringList m_formats;                 // the index is the id of the format's button
     std::unique_ptr<QButtonGroup> m_buttonGroup; // without parent
-    QWidget *m_qualityRow = nullptr;             // hidden unless the format is "jpeg"
+    QWidget *m_qualityRow = nullptr;             // hidden by any format but "jpeg"
     QSlider *m_qualitySlider = nullptr;
     QSpinBox *m_qualitySpinBox = nullptr;
 };

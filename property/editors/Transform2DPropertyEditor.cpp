@@ -13,9 +13,26 @@ namespace Tessark::PropertyUI {
 
 namespace {
 
+/// Lets the matrix be found as "QMatrix3x3". That is an alias, and Qt's float matrix has the same name:
+/// code tells the type by its C++ name. Qt 5 cannot have both names in one process, so the alias is
+/// not registered before an editor needs it, nor where the name is taken.
+void registerMatrixName()
+{
+    static const bool s_registered = [] {
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        if (QMetaType::type("QMatrix3x3") == QMetaType::UnknownType)
+            qRegisterMetaType<DoubleMatrix3x3>("QMatrix3x3");
+        QT_WARNING_POP
+        return true;
+    }();
+    Q_UNUSED(s_registered);
+}
+
 /// Any type but text and the matrix itself gives the identity.
 DoubleMatrix3x3 toMatrix(const QVariant &value)
 {
+    registerMatrixName();
     if (value.userType() == QMetaType::QString)
         return QMatrix3x3_fromString(value.toString());
     return value.value<DoubleMatrix3x3>();
@@ -105,6 +122,7 @@ void Transform2DPropertyEditor::setValue(const QVariant &value)
 
 QVariant Transform2DPropertyEditor::value() const
 {
+    registerMatrixName();
     Transform2D transform;
     if (m_widget && m_showPosition) {
         transform.offsetX = m_spinBoxes[0]->value();
@@ -147,7 +165,9 @@ void Transform2DPropertyEditor::setScaleExpanded(bool expanded)
         copyScaleXToY();
         Q_EMIT valueChanged();
     }
-    if (self && button && button->isChecked() != expanded)
+    // A slot may have unfolded the row again; then this call is out of date.
+    if (self && button && m_spinBoxes[scaleYRow()]->isHidden() != expanded
+        && button->isChecked() != expanded)
         setQuietly(button.data(), &UI::DisclosureButton::setChecked, expanded);
 }
 
@@ -239,6 +259,7 @@ QWidget *Transform2DPropertyEditor::makeContainer()
     auto *const container = new QWidget;
     auto *const grid = new QGridLayout(container);
     grid->setContentsMargins(0, 0, 0, 0);
+    grid->setColumnStretch(2, 1); // the sliders take the spare width
     std::size_t plainRows = m_rowCount;
     if (m_collapsibleScale && !m_uniformScale) {
         // Without scale rows too, on purpose; it then stands below the last row and folds nothing.

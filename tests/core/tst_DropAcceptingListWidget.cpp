@@ -86,6 +86,7 @@ private Q_SLOTS:
     void refusesOtherUrls();
     void answersWithCopyOrLink_data();
     void answersWithCopyOrLink();
+    void dropWithoutTheFilesIsRefused();
     void dropChangesNothingElse();
     void manyFilesComeInOneEmission();
     void blockedSignalsAreSilent();
@@ -370,6 +371,20 @@ void tst_DropAcceptingListWidget::answersWithCopyOrLink()
     QCOMPARE(drop(offer), answer);
 
     QCOMPARE(spy.count(), answer == Qt::IgnoreAction ? 0 : 1);
+}
+
+// The source may offer something else by the time of the drop.
+void tst_DropAcceptingListWidget::dropWithoutTheFilesIsRefused()
+{
+    m_list->setAcceptUrlsDrops(true);
+    QSignalSpy spy(m_list, &DropAcceptingListWidget::droppedUrls);
+    QCOMPARE(enter({*m_files}), Qt::CopyAction);
+
+    m_files->setUrls({});
+
+    QCOMPARE(drop({*m_files}), Qt::IgnoreAction);
+    QVERIFY(spy.isEmpty());
+    QVERIFY(!hasFrame());
 }
 
 void tst_DropAcceptingListWidget::dropChangesNothingElse()
@@ -665,6 +680,11 @@ void tst_DropAcceptingListWidget::frameHasTheActiveColour()
     palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::gray);
     m_list->setPalette(palette);
     m_list->setAcceptUrlsDrops(true);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(!m_list->isActiveWindow());
 
     enter({*m_files});
 

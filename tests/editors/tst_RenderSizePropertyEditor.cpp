@@ -46,14 +46,6 @@ struct Subject : SizeSubject
     bool areNumbersDisabled() const { return !width->isEnabled() && !height->isEnabled(); }
 };
 
-QStringList values(int count)
-{
-    QStringList entries;
-    for (int i = 0; i < count; ++i)
-        entries.append(QStringLiteral("value"));
-    return entries;
-}
-
 /// The row, column, row span and column span of a widget in the grid.
 QVector<int> cellOf(const QWidget *container, QWidget *widget)
 {
@@ -299,16 +291,16 @@ void tst_RenderSizePropertyEditor::presetsInTheListAnnounceEachStep()
 
     subject.pick(kHalf);
     QCOMPARE(subject.shown(), QSize(960, 540));
-    QCOMPARE(log.take(), values(3)); // the width, the height and the choice, on purpose
+    QCOMPARE(log.take(), SignalLog::values(3)); // the width, the height and the choice, on purpose
     QVERIFY(subject.areNumbersDisabled());
 
     QTest::keyClick(subject.comboBox, Qt::Key_Down);
     QCOMPARE(subject.shown(), QSize(480, 270));
-    QCOMPARE(log.take(), values(3));
+    QCOMPARE(log.take(), SignalLog::values(3));
 
     QTest::keyClick(subject.comboBox, Qt::Key_F); // as typing in the closed box does
     QCOMPARE(subject.shown(), QSize(1920, 1080));
-    QCOMPARE(log.take(), values(3));
+    QCOMPARE(log.take(), SignalLog::values(3));
     QVERIFY(subject.areNumbersDisabled());
 }
 
@@ -321,7 +313,7 @@ void tst_RenderSizePropertyEditor::presetThatAgreesWithTheRatio()
     QTest::keyClick(subject.comboBox, Qt::Key_Down);
 
     QCOMPARE(subject.shown(), QSize(960, 540));
-    QCOMPARE(log.take(), values(2));
+    QCOMPARE(log.take(), SignalLog::values(2));
     QVERIFY(!subject.check->isEnabled());
     QVERIFY(subject.check->isChecked());
 }
@@ -335,7 +327,7 @@ void tst_RenderSizePropertyEditor::presetWithoutRatioHintEndsEqual()
     QTest::keyClick(subject.comboBox, Qt::Key_Down);
 
     QCOMPARE(subject.shown(), QSize(540, 540));
-    QCOMPARE(log.take(), values(3));
+    QCOMPARE(log.take(), SignalLog::values(3));
 }
 
 void tst_RenderSizePropertyEditor::presetWithUndefinedRatio()
@@ -346,7 +338,7 @@ void tst_RenderSizePropertyEditor::presetWithUndefinedRatio()
     QTest::keyClick(subject.comboBox, Qt::Key_Down);
 
     QCOMPARE(subject.shown(), QSize(960, 540));
-    QCOMPARE(log.take(), values(3));
+    QCOMPARE(log.take(), SignalLog::values(3));
 }
 
 void tst_RenderSizePropertyEditor::presetWithUncheckedRatio()
@@ -359,7 +351,7 @@ void tst_RenderSizePropertyEditor::presetWithUncheckedRatio()
     QTest::keyClick(subject.comboBox, Qt::Key_Up);
 
     QCOMPARE(subject.shown(), QSize(480, 270));
-    QCOMPARE(log.take(), values(3));
+    QCOMPARE(log.take(), SignalLog::values(3));
     QVERIFY(!subject.check->isChecked());
     QVERIFY(!subject.check->isEnabled());
 }
@@ -373,7 +365,7 @@ void tst_RenderSizePropertyEditor::presetThatIsShownAlreadyEmitsOnce()
     QTest::keyClick(subject.comboBox, Qt::Key_Down);
 
     QCOMPARE(subject.shown(), QSize(960, 540));
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
 }
 
 void tst_RenderSizePropertyEditor::everyEmissionReportsTheNumbersOfItsMoment()
@@ -399,7 +391,7 @@ void tst_RenderSizePropertyEditor::customUnlocksTheNumbers()
     QCOMPARE(subject.shown(), QSize(70, 80));
     QVERIFY(subject.areNumbersEnabled());
     QVERIFY(subject.check->isEnabled());
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
 }
 
 void tst_RenderSizePropertyEditor::presetLocksAgain()
@@ -425,7 +417,7 @@ void tst_RenderSizePropertyEditor::typingAfterCustomKeepsTheRatio()
 
     QCOMPARE(subject.shown(), QSize(32, 18));
     QCOMPARE(subject.comboBox->currentIndex(), kCustom);
-    QCOMPARE(log.take(), values(2));
+    QCOMPARE(log.take(), SignalLog::values(2));
 }
 
 void tst_RenderSizePropertyEditor::pickingTheCurrentEntryDoesNothing()
@@ -446,10 +438,10 @@ void tst_RenderSizePropertyEditor::anotherIndexChangesNothing()
     SignalLog log(subject.editor.get());
 
     subject.comboBox->setCurrentIndex(-1);
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
     for (const int index : {-2, 4, std::numeric_limits<int>::max()}) {
         QMetaObject::invokeMethod(subject.editor.get(), "comboBoxValueChanged", Q_ARG(int, index));
-        QCOMPARE(log.take(), values(1));
+        QCOMPARE(log.take(), SignalLog::values(1));
     }
 
     QCOMPARE(subject.shown(), QSize(70, 80));

@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QMetaMethod>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
 #include <QVector3D>
@@ -182,6 +183,8 @@ private Q_SLOTS:
     void echoDoesNothing_data();
     void echoDoesNothing();
     void echoOfFoldingIsShown();
+    void hostMayUnfoldInTheCallback_data();
+    void hostMayUnfoldInTheCallback();
     void editorDeletedInTheCallback_data() { addEdits(); }
     void editorDeletedInTheCallback();
     void widgetDeletedInTheCallback();
@@ -673,6 +676,7 @@ void tst_Transform2DPropertyEditor::setScaleExpandedMovesTheButton()
     Subject subject(Collapsible);
     subject.build();
     SignalLog log(subject.editor.get());
+    const QSignalSpy toggled(subject.button, &DisclosureButton::toggled);
 
     subject.editor->setScaleExpanded(true);
     QVERIFY(subject.button->isChecked());
@@ -685,6 +689,7 @@ void tst_Transform2DPropertyEditor::setScaleExpandedMovesTheButton()
     QVERIFY(!subject.button->isChecked());
     QVERIFY(subject.isHidden(4));
     QCOMPARE(log.take(), kOneValue); // once, the button being moved silently
+    QVERIFY(toggled.isEmpty());
     QVERIFY(!subject.button->signalsBlocked());
 
     subject.editor->setScaleExpanded(false);
@@ -1003,6 +1008,38 @@ void tst_Transform2DPropertyEditor::echoOfFoldingIsShown()
     QCOMPARE(calls, 1);
     QCOMPARE(subject->numbers(), (QVector<double>{0.9, 0.9, 90, 4, 4}));
     QVERIFY(!subject->editor->isScaleExpanded());
+}
+
+void tst_Transform2DPropertyEditor::hostMayUnfoldInTheCallback_data()
+{
+    QTest::addColumn<bool>("byClick");
+    QTest::addColumn<bool>("byValue");
+    QTest::newRow("clicked, a value with two scales") << true << true;
+    QTest::newRow("clicked, unfolded") << true << false;
+    QTest::newRow("folded by the host, unfolded") << false << false;
+}
+
+void tst_Transform2DPropertyEditor::hostMayUnfoldInTheCallback()
+{
+    QFETCH(bool, byClick);
+    QFETCH(bool, byValue);
+    const std::unique_ptr<Subject> subject = makeEditable();
+    connect(subject->editor.get(), &PropertyEditor::valueChanged, subject->editor.get(), [&] {
+        if (byValue)
+            subject->setValue(Numbers{0.1, 0.2, 30, 2, 4});
+        else
+            subject->editor->setScaleExpanded(true);
+    });
+
+    if (byClick)
+        subject->button->click();
+    else
+        subject->editor->setScaleExpanded(false);
+
+    QVERIFY(subject->button->isChecked());
+    QVERIFY(subject->isShown(4));
+    QCOMPARE(subject->label(3)->text(), QStringLiteral("Scale X:"));
+    QCOMPARE(subject->box(4)->value(), byValue ? 4.0 : 1.0);
 }
 
 void tst_Transform2DPropertyEditor::editorDeletedInTheCallback()

@@ -133,6 +133,8 @@ private Q_SLOTS:
     void labelAndFieldSitInTheirColumns();
     void rectangleOriginIsNotAdded();
     void labelsAreFlushRight();
+    void rightToLeftMirrorsRows();
+    void changeOfDirectionPlacesAnew();
     void labelWithExpandingPolicyKeepsItsWidth();
     void labelKeepsToItsLimits();
     void twoFieldsShareOddWidth();
@@ -935,6 +937,38 @@ void tst_PropertyLayout::labelsAreFlushRight()
     QCOMPARE(narrow->geometry(), QRect(4 + 20, 4, 30, 10));
     QCOMPARE(field->x(), 4 + 50 + 10);
     QCOMPARE(wide->geometry(), QRect(4, 18, 50, 10));
+}
+
+void tst_PropertyLayout::rightToLeftMirrorsRows()
+{
+    const FixedHintWidget *label = add(QSize(40, 20), kNewRow);
+    const FixedHintWidget *first = add(QSize(20, 20), Options());
+    const FixedHintWidget *second = add(QSize(20, 20), kExpandHorizontal);
+    const FixedHintWidget *whole = add(QSize(30, 20), kFullWidth);
+    m_host->setLayoutDirection(Qt::RightToLeft);
+
+    place(300, 100);
+
+    // From the right: margin, label, gap, fields.
+    QCOMPARE(label->geometry(), QRect(300 - 4 - 40, 4, 40, 20));
+    QCOMPARE(first->geometry(), QRect(300 - 54 - 20, 4, 20, 20));
+    QCOMPARE(second->geometry(), QRect(4, 4, 300 - 54 - 20 - 4 - 4, 20));
+    QCOMPARE(whole->geometry(), QRect(300 - 4 - 30, 28, 30, 20));
+}
+
+void tst_PropertyLayout::changeOfDirectionPlacesAnew()
+{
+    const FixedHintWidget *label = add(QSize(40, 20), kNewRow);
+    add(QSize(20, 20), kExpandHorizontal);
+    m_host->resize(300, 100);
+    m_host->show();
+    QCOMPARE(label->x(), 4);
+
+    m_host->setLayoutDirection(Qt::RightToLeft);
+    QTRY_COMPARE(label->x(), 300 - 4 - 40);
+
+    m_host->setLayoutDirection(Qt::LeftToRight);
+    QTRY_COMPARE(label->x(), 4);
 }
 
 void tst_PropertyLayout::labelWithExpandingPolicyKeepsItsWidth()

@@ -19,14 +19,6 @@ namespace {
 constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
 
-QStringList values(int count)
-{
-    QStringList entries;
-    for (int i = 0; i < count; ++i)
-        entries.append(QStringLiteral("value"));
-    return entries;
-}
-
 } // namespace
 
 /// What both editors of sizes do alike: each test runs once for either.
@@ -116,7 +108,7 @@ void tst_SizeFields::isHarmlessBeforeItsWidget()
 
     // There is nothing to keep in ratio, and the change is announced in every case.
     QMetaObject::invokeMethod(subject.editor.get(), "spinBoxValueChanged", Q_ARG(int, 5));
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
     subject.build();
     QCOMPARE(subject.shown(), QSize(1, 1));
 }
@@ -194,7 +186,7 @@ void tst_SizeFields::typingKeepsTheRatio()
     SizeSubject::type(inWidth ? subject.width : subject.height, text);
 
     QTEST(subject.shown(), "expected");
-    QCOMPARE(log.take(), values(int(text.size()))); // each key changes the number once
+    QCOMPARE(log.take(), SignalLog::values(int(text.size()))); // each key changes the number once
     QVERIFY(!subject.width->signalsBlocked());
     QVERIFY(!subject.height->signalsBlocked());
 }
@@ -229,7 +221,7 @@ void tst_SizeFields::hugeRatiosWrap()
 
     QTEST(subject.height->value(), "height");
     QCOMPARE(subject.width->value(), width);
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
 }
 
 void tst_SizeFields::undefinedRatiosLeaveTheOtherNumber_data()
@@ -260,7 +252,7 @@ void tst_SizeFields::undefinedRatiosLeaveTheOtherNumber()
     SizeSubject::type(inWidth ? subject.width : subject.height, QString::number(number));
 
     QCOMPARE(subject.shown(), inWidth ? QSize(number, 60) : QSize(50, number));
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
 }
 
 void tst_SizeFields::withoutRatioHintTheNumbersAreEqual()
@@ -287,7 +279,7 @@ void tst_SizeFields::numbersAreIndependentWithoutCheckBox()
     SizeSubject::type(subject.height, QStringLiteral("4"));
 
     QCOMPARE(subject.shown(), QSize(6, 4));
-    QCOMPARE(log.take(), values(2));
+    QCOMPARE(log.take(), SignalLog::values(2));
 }
 
 void tst_SizeFields::uncheckedNumbersAreIndependent()
@@ -301,7 +293,7 @@ void tst_SizeFields::uncheckedNumbersAreIndependent()
     SizeSubject::type(subject.width, QStringLiteral("6"));
     SizeSubject::type(subject.height, QStringLiteral("4"));
     QCOMPARE(subject.shown(), QSize(6, 4));
-    QCOMPARE(log.take(), values(2));
+    QCOMPARE(log.take(), SignalLog::values(2));
 
     subject.check->click();
     QCOMPARE(subject.shown(), QSize(6, 4)); // the rule waits for the next change
@@ -334,7 +326,7 @@ void tst_SizeFields::arrowKeysKeepTheRatio()
     QCOMPARE(subject.shown(), QSize(11, 22));
     QTest::keyClick(subject.height, Qt::Key_Down);
     QCOMPARE(subject.shown(), QSize(10, 21));
-    QCOMPARE(log.take(), values(2));
+    QCOMPARE(log.take(), SignalLog::values(2));
 }
 
 void tst_SizeFields::emissionComesAfterBothNumbers()
@@ -362,7 +354,7 @@ void tst_SizeFields::slotWithoutSenderCountsAsHeight()
     QMetaObject::invokeMethod(subject.editor.get(), "spinBoxValueChanged", Q_ARG(int, 90));
 
     QCOMPARE(subject.shown(), QSize(160, 1));
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
 }
 
 void tst_SizeFields::hintsAreReadOnce()
@@ -522,7 +514,7 @@ void tst_SizeFields::revertsToDefault()
     subject.editor->revertToDefaultValue();
 
     QCOMPARE(subject.editor->value(), QVariant(QSize(320, 240)));
-    QCOMPARE(log.take(), values(1));
+    QCOMPARE(log.take(), SignalLog::values(1));
 }
 
 QTEST_MAIN(tst_SizeFields)

@@ -106,7 +106,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     if (argc != 2)
         return 2;
-    // Nothing is ever sent, so it can be read only once it is closed.
+    // Nothing is ever sent, so it can be read only once it is closed. A drag may be going on then,
+    // in an event loop of its own, which must not hold the end up.
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &application, [] { std::_Exit(0); });
     Window window(readUrls(QFile::decodeName(argv[1])));

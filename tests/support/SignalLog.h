@@ -25,6 +25,15 @@ public:
         return taken;
     }
 
+    /// That many value changes and nothing else, as take() tells them.
+    static QStringList values(int count)
+    {
+        QStringList entries;
+        for (int i = 0; i < count; ++i)
+            entries.append(QStringLiteral("value"));
+        return entries;
+    }
+
 private:
     template <typename Signal>
     void record(const Tessark::PropertyUI::PropertyEditor *editor, Signal signal,

@@ -94,6 +94,8 @@ bool XServer::start()
     qputenv("QT_QPA_PLATFORM", "xcb");
     // Nothing here is drawn with OpenGL, whose libraries leak and take long to load.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
+    // Nor is anyone's session to be heard of this. Looking for a bus where there is none also leaks.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     for (const char *variable : {"XAUTHORITY", "SESSION_MANAGER", "QT_SCALE_FACTOR",
                                  "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"})
         qunsetenv(variable);

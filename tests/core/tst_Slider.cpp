@@ -1,5 +1,6 @@
 #include "core/Slider.h"
 
+#include "support/PaintCounter.h"
 #include "support/RealSliders.h"
 
 #include <QDialog>
@@ -24,30 +25,6 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kLargest = std::numeric_limits<double>::max();
-
-/// Counts what the widget is asked to paint.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-
-    /// The paint events since the last call, all posted ones included.
-    int take()
-    {
-        QCoreApplication::processEvents();
-        return std::exchange(m_count, 0);
-    }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++m_count;
-        return false;
-    }
-
-private:
-    int m_count = 0;
-};
 
 /// Remembers in which state a slider's handle was painted last.
 class HandleStates : public QProxyStyle

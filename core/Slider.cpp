@@ -41,6 +41,26 @@ QPointF centreOf(const QRect &rect)
     return QRectF(rect).center();
 }
 
+/// A thin line along the edge, of filled rectangles: stroking one costs more than all else here.
+void paintOutline(QPainter *painter, const QRect &bar, QColor color)
+{
+    constexpr int kCorner = 2;
+    color.setAlpha(kOutlineAlpha);
+    const QRect across = bar.adjusted(kCorner, 0, -kCorner, 0);
+    const QRect down = bar.adjusted(0, kCorner, 0, -kCorner);
+    const QRect within = bar.adjusted(1, 1, -1, -1);
+    const QRect lines[] = {{across.topLeft(), QSize(across.width(), 1)},
+                           {across.bottomLeft(), QSize(across.width(), 1)},
+                           {down.topLeft(), QSize(1, down.height())},
+                           {down.topRight(), QSize(1, down.height())},
+                           {within.topLeft(), QSize(1, 1)},
+                           {within.topRight(), QSize(1, 1)},
+                           {within.bottomLeft(), QSize(1, 1)},
+                           {within.bottomRight(), QSize(1, 1)}};
+    for (const QRect &line : lines)
+        painter->fillRect(line, color);
+}
+
 } // namespace
 
 class Slider::LinearPosition final : public RealPosition
@@ -408,23 +428,21 @@ void Slider::paintGradient(QPainter *painter, const QStyleOptionSlider &option) 
     const QRect groove =
         style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
     const QPoint corner = (track.first - QPointF(kBarThickness, kBarThickness) / 2).toPoint();
-    const QRectF bar =
-        track.isHorizontal
-            ? QRectF(groove.left() + 1, corner.y(), groove.width() - 2, kBarThickness)
-            : QRectF(corner.x(), groove.top() + 1, kBarThickness, groove.height() - 2);
+    const QRect bar = track.isHorizontal
+                          ? QRect(groove.left() + 1, corner.y(), groove.width() - 2, kBarThickness)
+                          : QRect(corner.x(), groove.top() + 1, kBarThickness, groove.height() - 2);
     QLinearGradient gradient(track.first, track.last);
     gradient.setColorAt(0, m_first);
     gradient.setColorAt(1, m_last);
-    QColor outline = option.palette.color(QPalette::WindowText);
-    outline.setAlpha(kOutlineAlpha);
 
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
     painter->setOpacity(isEnabled() ? 1 : kDisabledOpacity);
-    painter->setPen(outline);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
     painter->setBrush(gradient);
-    painter->drawRoundedRect(bar.adjusted(0.5, 0.5, -0.5, -0.5), kBarRadius, kBarRadius);
-    painter->restore();
+    painter->drawRoundedRect(bar, kBarRadius, kBarRadius);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    paintOutline(painter, bar, option.palette.color(QPalette::WindowText));
+    painter->setOpacity(1);
 }
 
 } // namespace Tessark::UI

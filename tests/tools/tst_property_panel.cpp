@@ -38,7 +38,8 @@ const QByteArray kPictureList = R"({
             "textures": [{"name": "Red", "file": "red.png"}, "blue.png"]}},
         {"name": "size", "type": "ivec2/size", "default": [8, 6]},
         {"name": "frame", "type": "render_size", "default": [8, 6]},
-        {"name": "turn", "type": "transform2D"}
+        {"name": "turn", "type": "transform2D"},
+        {"name": "tint", "type": "vec4/color"}
     ]
 })";
 
@@ -562,15 +563,18 @@ void tst_property_panel::picturesSurviveUnchanged_data()
     QTest::newRow("others than the defaults") << QByteArray(R"({
         "floor": "blue.png", "format": {"compressionRate": 33, "format": "jpeg"},
         "frame": [1920, 1080], "poster": "./blue.png", "size": [640, 480],
-        "turn": [0.433013, 0.125, 0, -0.25, 0.216506, 0, 0.415192, 0.273446, 1]})");
+        "turn": [0.433013, 0.125, 0, -0.25, 0.216506, 0, 0.415192, 0.273446, 1],
+        "tint": [0.12345, 0.5, 1, 0.25]})");
     QTest::newRow("none") << QByteArray(R"({
         "floor": "", "format": {"format": "tiff"},
         "frame": [5000, 0], "poster": "", "size": [-1, 9999],
-        "turn": [0, 0, 0, 0, 0, 0, 0, 0, 0]})");
+        "turn": [0, 0, 0, 0, 0, 0, 0, 0, 0],
+        "tint": [0, 0, 0, 0]})");
     QTest::newRow("a path for a texture") << QByteArray(R"({
         "floor": "./red.png", "format": {"format": "bmp"},
         "frame": [1, 1], "poster": "red.png", "size": [1, 1],
-        "turn": [1, 0, 0, 0, 1, 0, 0, 0, 1]})");
+        "turn": [1, 0, 0, 0, 1, 0, 0, 0, 1],
+        "tint": [1, 1, 1, 1]})");
 }
 
 void tst_property_panel::picturesSurviveUnchanged()
@@ -669,7 +673,7 @@ void tst_property_panel::liveLinesOfPictures()
             R"({"continued":false,"name":"format","value":{"compressionRate":50,"format":"png"}})",
             R"({"continued":false,"name":"format","value":{"format":"png"}})",
             R"({"continued":false,"name":"floor","value":"Red"})",
-            R"({"floor":"Red","format":{"format":"png"},"frame":[8,6],"poster":"red.png","size":[8,6],"turn":[1,0,0,0,1,0,0,0,1]})"}));
+            R"({"floor":"Red","format":{"format":"png"},"frame":[8,6],"poster":"red.png","size":[8,6],"tint":[0,0,0,1],"turn":[1,0,0,0,1,0,0,0,1]})"}));
 }
 
 void tst_property_panel::saveWithTheKeyboard()

@@ -1,6 +1,7 @@
 #include "core/KitAccessibility_p.h"
 
 #include "core/LogSlider.h"
+#include "core/Slider.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -53,15 +54,23 @@ private:
     RealSlider *m_slider; // the interface is deleted with it
 };
 
+/// Null unless the object is of just this class of ours.
+template <typename RealSlider>
+QAccessibleInterface *realSliderInterface(const QString &className, QObject *object)
+{
+    if (className != QLatin1String(RealSlider::staticMetaObject.className()))
+        return nullptr;
+    auto *const slider = qobject_cast<RealSlider *>(object);
+    return slider ? new RealSliderInterface<RealSlider>(slider) : nullptr;
+}
+
+/// Qt asks for the class and then for each of its bases, so a host's subclass with an interface of
+/// its own comes first.
 QAccessibleInterface *kitInterface(const QString &className, QObject *object)
 {
-    // Qt asks for the class and then for each of its bases, so a host's subclass with an interface of
-    // its own comes first.
-    if (className == QLatin1String(LogSlider::staticMetaObject.className())) {
-        if (auto *const slider = qobject_cast<LogSlider *>(object))
-            return new RealSliderInterface<LogSlider>(slider);
-    }
-    return nullptr;
+    if (auto *const accessible = realSliderInterface<LogSlider>(className, object))
+        return accessible;
+    return realSliderInterface<Slider>(className, object);
 }
 
 } // namespace

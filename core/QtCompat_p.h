@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileDialog>
+#include <QMouseEvent>
 
 namespace Tessark::UI {
 
@@ -17,5 +18,15 @@ inline bool picksDirectory(QFileDialog::FileMode mode)
 #endif
 }
 QT_WARNING_POP
+
+/// Where in its widget a mouse event is.
+inline QPointF eventPos(const QMouseEvent &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.localPos();
+#else
+    return event.position();
+#endif
+}
 
 } // namespace Tessark::UI

@@ -19,8 +19,8 @@ inline bool picksDirectory(QFileDialog::FileMode mode)
 }
 QT_WARNING_POP
 
-/// Where in its widget a mouse event is.
-inline QPointF eventPos(const QMouseEvent &event)
+/// Where the event is, in pixels of the widget that gets it.
+inline QPointF positionOf(const QMouseEvent &event)
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     return event.localPos();

@@ -1,5 +1,7 @@
 #include "core/KitAccessibility_p.h"
 
+#include "core/ColorWheel.h"
+#include "core/ColorWheelInterface_p.h"
 #include "core/LogSlider.h"
 
 #include <QAccessible>
@@ -60,6 +62,10 @@ QAccessibleInterface *kitInterface(const QString &className, QObject *object)
     if (className == QLatin1String(LogSlider::staticMetaObject.className())) {
         if (auto *const slider = qobject_cast<LogSlider *>(object))
             return new RealSliderInterface<LogSlider>(slider);
+    }
+    if (className == QLatin1String(ColorWheel::staticMetaObject.className())) {
+        if (auto *const wheel = qobject_cast<ColorWheel *>(object))
+            return new ColorWheelInterface(wheel);
     }
     return nullptr;
 }

@@ -1,5 +1,7 @@
 #include "core/KitAccessibility_p.h"
 
+#include "core/ColorWheel.h"
+#include "core/ColorWheelInterface_p.h"
 #include "core/LogSlider.h"
 #include "core/Slider.h"
 
@@ -72,7 +74,9 @@ QAccessibleInterface *kitInterface(const QString &className, QObject *object)
     using SliderInterface = RealSliderInterface<Slider>;
     if (auto *const found = interfaceFor<LogSlider, LogSliderInterface>(className, object))
         return found;
-    return interfaceFor<Slider, SliderInterface>(className, object);
+    if (auto *const found = interfaceFor<Slider, SliderInterface>(className, object))
+        return found;
+    return interfaceFor<ColorWheel, ColorWheelInterface>(className, object);
 }
 
 } // namespace

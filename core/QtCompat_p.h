@@ -29,4 +29,14 @@ inline QPointF positionOf(const QMouseEvent &event)
 #endif
 }
 
+/// Whether the event was made of a finger's touch.
+inline bool isFromFinger(const QMouseEvent &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.source() != Qt::MouseEventNotSynthesized;
+#else
+    return event.pointerType() == QPointingDevice::PointerType::Finger;
+#endif
+}
+
 } // namespace Tessark::UI

@@ -9,6 +9,7 @@
 namespace Tessark::UI {
 
 class ColorLink;
+enum class WheelPart;
 struct Hsv;
 struct WheelView;
 
@@ -21,7 +22,8 @@ struct WheelView;
  * Signals: only what the user does is announced, by pointer, key, mouse wheel or assistive
  * technology. Every edit belongs to an interaction, which startDragSignal() and stopDragSignal()
  * bracket: a drag, a key held down, a burst of the mouse wheel. The setters are silent. A slot may
- * delete the wheel.
+ * delete the wheel; only where hiding, disabling or loss of focus ends the interaction, the widget
+ * system goes on with it, and a slot of stopDragSignal() must leave that to deleteLater().
  *
  * Made by a ColorControl, the wheel shows the control's colour, and its setters set that.
  *
@@ -105,8 +107,25 @@ Q_SIGNALS:
     /// The user chose these.
     void hsvEdited(double hue, double saturation, double value);
 
+protected:
+    bool event(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     friend class ColorControl;
+    friend class ColorWheelInterface;
+    struct Input;
 
     /// From now on the wheel belongs to a control and reports to it.
     void bind(ColorLink *link);
@@ -114,7 +133,17 @@ private:
     /// Shows what the control says, silently.
     void showFromControl(const Hsv &hsv);
 
-    std::unique_ptr<WheelView> m_view;
+    /// An edit by the user that is an interaction of its own.
+    void editAtOnce(const Hsv &hsv);
+
+    void beginDrag(WheelPart part, const QPointF &point, Qt::KeyboardModifiers modifiers);
+    void cancelDrag();
+    void turnWheel(double notches);
+    bool endInteraction();
+    void leaveInput();
+
+    std::unique_ptr<WheelView> m_view; // what is shown, and how
+    std::unique_ptr<Input> m_input;    // what the user is doing
 };
 
 } // namespace Tessark::UI

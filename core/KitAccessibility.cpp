@@ -1,5 +1,7 @@
 #include "core/KitAccessibility_p.h"
 
+#include "core/ColorWheel.h"
+#include "core/ColorWheelInterface_p.h"
 #include "core/LogSlider.h"
 #include "core/Slider.h"
 
@@ -55,22 +57,26 @@ private:
 };
 
 /// Null unless the object is of just this class of ours.
-template <typename RealSlider>
-QAccessibleInterface *realSliderInterface(const QString &className, QObject *object)
+template <typename Widget, typename Interface>
+QAccessibleInterface *interfaceFor(const QString &className, QObject *object)
 {
-    if (className != QLatin1String(RealSlider::staticMetaObject.className()))
+    if (className != QLatin1String(Widget::staticMetaObject.className()))
         return nullptr;
-    auto *const slider = qobject_cast<RealSlider *>(object);
-    return slider ? new RealSliderInterface<RealSlider>(slider) : nullptr;
+    auto *const widget = qobject_cast<Widget *>(object);
+    return widget ? new Interface(widget) : nullptr;
 }
 
 /// Qt asks for the class and then for each of its bases, so a host's subclass with an interface of
 /// its own comes first.
 QAccessibleInterface *kitInterface(const QString &className, QObject *object)
 {
-    if (auto *const accessible = realSliderInterface<LogSlider>(className, object))
-        return accessible;
-    return realSliderInterface<Slider>(className, object);
+    using LogSliderInterface = RealSliderInterface<LogSlider>;
+    using SliderInterface = RealSliderInterface<Slider>;
+    if (auto *const found = interfaceFor<LogSlider, LogSliderInterface>(className, object))
+        return found;
+    if (auto *const found = interfaceFor<Slider, SliderInterface>(className, object))
+        return found;
+    return interfaceFor<ColorWheel, ColorWheelInterface>(className, object);
 }
 
 } // namespace

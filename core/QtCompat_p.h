@@ -19,13 +19,23 @@ inline bool picksDirectory(QFileDialog::FileMode mode)
 }
 QT_WARNING_POP
 
-/// Where in its widget a mouse event is.
-inline QPointF eventPos(const QMouseEvent &event)
+/// Where the event is, in pixels of the widget that gets it.
+inline QPointF positionOf(const QMouseEvent &event)
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     return event.localPos();
 #else
     return event.position();
+#endif
+}
+
+/// Whether the event was made of a finger's touch.
+inline bool isFromFinger(const QMouseEvent &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.source() != Qt::MouseEventNotSynthesized;
+#else
+    return event.pointerType() == QPointingDevice::PointerType::Finger;
 #endif
 }
 

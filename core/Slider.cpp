@@ -24,8 +24,8 @@ constexpr int kFreshResolution = 1000;
 constexpr int kFreshSingleStep = 10;
 constexpr int kFreshPageStep = 100;
 constexpr int kBarThickness = 8;
-constexpr qreal kBarRadius = 3;
-constexpr int kOutlineAlpha = 80;
+constexpr qreal kBarRadius = 4;
+constexpr int kEdgeAlpha = 110;
 constexpr qreal kDisabledOpacity = 0.35;
 
 QRect handleRectAt(const QStyleOptionSlider &option, int position, const QWidget *widget)
@@ -39,26 +39,6 @@ QRect handleRectAt(const QStyleOptionSlider &option, int position, const QWidget
 QPointF centreOf(const QRect &rect)
 {
     return QRectF(rect).center();
-}
-
-/// A thin line along the edge, of filled rectangles: stroking one costs more than all else here.
-void paintOutline(QPainter *painter, const QRect &bar, QColor color)
-{
-    constexpr int kCorner = 2;
-    color.setAlpha(kOutlineAlpha);
-    const QRect across = bar.adjusted(kCorner, 0, -kCorner, 0);
-    const QRect down = bar.adjusted(0, kCorner, 0, -kCorner);
-    const QRect within = bar.adjusted(1, 1, -1, -1);
-    const QRect lines[] = {{across.topLeft(), QSize(across.width(), 1)},
-                           {across.bottomLeft(), QSize(across.width(), 1)},
-                           {down.topLeft(), QSize(1, down.height())},
-                           {down.topRight(), QSize(1, down.height())},
-                           {within.topLeft(), QSize(1, 1)},
-                           {within.topRight(), QSize(1, 1)},
-                           {within.bottomLeft(), QSize(1, 1)},
-                           {within.bottomRight(), QSize(1, 1)}};
-    for (const QRect &line : lines)
-        painter->fillRect(line, color);
 }
 
 } // namespace
@@ -274,14 +254,14 @@ void Slider::mousePressEvent(QMouseEvent *event)
         event->button() == Qt::LeftButton && event->buttons() == Qt::MouseButtons(Qt::LeftButton);
     event->setAccepted(isLeftAlone && minimum() != maximum());
     if (event->isAccepted())
-        startDrag(eventPos(*event));
+        startDrag(UI::positionOf(*event));
 }
 
 void Slider::mouseMoveEvent(QMouseEvent *event)
 {
     event->setAccepted(m_dragging);
     if (m_dragging)
-        moveHandle(eventPos(*event));
+        moveHandle(UI::positionOf(*event));
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent *event)
@@ -434,15 +414,21 @@ void Slider::paintGradient(QPainter *painter, const QStyleOptionSlider &option) 
     QLinearGradient gradient(track.first, track.last);
     gradient.setColorAt(0, m_first);
     gradient.setColorAt(1, m_last);
+    QColor edge = option.palette.color(QPalette::WindowText);
+    edge.setAlpha(kEdgeAlpha);
 
-    painter->setOpacity(isEnabled() ? 1 : kDisabledOpacity);
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
+    if (isEnabled()) { // through a faded bar it would show
+        // The edge is filled: stroking it costs more than all else here.
+        painter->setBrush(edge);
+        painter->drawRoundedRect(bar, kBarRadius, kBarRadius);
+    }
+    painter->setOpacity(isEnabled() ? 1 : kDisabledOpacity);
     painter->setBrush(gradient);
-    painter->drawRoundedRect(bar, kBarRadius, kBarRadius);
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    paintOutline(painter, bar, option.palette.color(QPalette::WindowText));
+    painter->drawRoundedRect(bar.adjusted(1, 1, -1, -1), kBarRadius - 1, kBarRadius - 1);
     painter->setOpacity(1);
+    painter->setRenderHint(QPainter::Antialiasing, false);
 }
 
 } // namespace Tessark::UI

@@ -6,6 +6,7 @@
 #include "support/ColorClient.h"
 #include "support/PaintCounter.h"
 #include "support/RealSliders.h"
+#include "support/WheelPointer.h"
 
 #include <QColor>
 #include <QPointer>
@@ -39,7 +40,6 @@ float truncatedTo(float fraction, float steps)
 
 Q_DECLARE_METATYPE(std::function<float(float)>)
 
-/// The control with sliders; tst_ColorPropertyEditor drives it with the wheel.
 class tst_ColorControl : public QObject
 {
     Q_OBJECT
@@ -79,6 +79,13 @@ private Q_SLOTS:
     void cancelAfterTheClientSetAnotherColour();
     void twoDragsAtOnce();
     void hideDisableEndTheDrag();
+
+    void wheelDragOrder();
+    void wheelEditReachesAll();
+    void wheelOnAGreyTellsNobody();
+    void wheelCancelIsExact();
+    void wheelWhoseSignalsAreBlocked();
+    void clientSetsAnotherColourInAWheelDrag();
 
     void echoKeepsTheWidgets_data();
     void echoKeepsTheWidgets();
@@ -145,6 +152,7 @@ void tst_ColorControl::build()
     m_window = std::make_unique<QWidget>();
     auto *const layout = new QVBoxLayout(m_window.get());
     m_wheel = m_control->createColorWheel();
+    m_wheel->setFixedSize(160, 160);
     layout->addWidget(m_wheel);
     m_sliders = {
         m_control->createRedSlider(Qt::Horizontal), m_control->createGreenSlider(Qt::Horizontal),
@@ -560,6 +568,116 @@ void tst_ColorControl::hideDisableEndTheDrag()
     QCOMPARE(m_client->take(), QStringLiteral("started changed color check finished"));
 }
 
+void tst_ColorControl::wheelDragOrder()
+{
+    m_control->setColorRGBA(0.5F, 0.25F, 0.25F, 1);
+    m_client->take();
+    connect(m_wheel, &ColorWheel::startDragSignal, this,
+            [this] { m_client->note(QStringLiteral("start")); });
+    connect(m_wheel, &ColorWheel::stopDragSignal, this,
+            [this] { m_client->note(QStringLiteral("stop")); });
+    WheelPointer pointer(m_wheel);
+
+    pointer.press({80, 40});
+    pointer.move({80, 110});
+    pointer.release();
+    QCOMPARE(m_client->take(),
+             QStringLiteral("start started changed color changed color check finished stop"));
+
+    pointer.press({80, 110}); // on the marker: nothing moves
+    pointer.release();
+    QCOMPARE(m_client->take(), QStringLiteral("start started finished stop"));
+}
+
+void tst_ColorControl::wheelEditReachesAll()
+{
+    m_control->setColorRGBA(0.5F, 0.25F, 0.25F, 0.3F);
+    const std::unique_ptr<ColorWheel> second(m_control->createColorWheel());
+    WheelPointer pointer(m_wheel);
+
+    pointer.press({60, 90});
+    pointer.release();
+
+    const Hsv hsv{m_wheel->hue(), m_wheel->saturation(), m_wheel->value()};
+    const Rgb rgb = rgbOf(hsv);
+    QVERIFY(hsv.saturation > 0.1);
+    QCOMPARE(hsv.value, 0.5);
+    QVERIFY(second->hue() == hsv.hue && second->saturation() == hsv.saturation);
+    QVERIFY(m_control->hue() == hsv.hue && m_control->value() == hsv.value);
+    QVERIFY(slider(0)->realValue() == rgb.red);
+    QVERIFY(slider(1)->realValue() == rgb.green);
+    QVERIFY(slider(2)->realValue() == rgb.blue);
+    QCOMPARE(m_client->last,
+             (std::array<float, 4>{float(rgb.red), float(rgb.green), float(rgb.blue), 0.3F}));
+}
+
+void tst_ColorControl::wheelOnAGreyTellsNobody()
+{
+    slider(0)->setRealValue(0.5001);
+    slider(1)->setRealValue(0.5001);
+    slider(2)->setRealValue(0.5001);
+    m_control->setColorRGBA(0.5F, 0.5F, 0.5F, 1); // its echo
+    m_client->take();
+
+    QTest::keyClick(m_wheel, Qt::Key_Right);
+
+    QVERIFY(m_control->hue() > 0);
+    QCOMPARE(m_control->red(), 0.5F);
+    QCOMPARE(m_client->take(), QStringLiteral("started changed finished"));
+}
+
+void tst_ColorControl::wheelCancelIsExact()
+{
+    slider(0)->setRealValue(0.501);
+    slider(1)->setRealValue(0.251);
+    m_control->setColorRGBA(0.5F, 0.25F, 0, 1); // an echo: these numbers, that hue
+    const double hue = m_control->hue();
+    m_client->take();
+    WheelPointer pointer(m_wheel);
+
+    pointer.press({60, 90});
+    QTest::keyClick(m_wheel, Qt::Key_Escape);
+    pointer.release();
+
+    QCOMPARE(m_client->take(), QStringLiteral("started changed color changed color finished"));
+    QCOMPARE(m_client->last, (std::array<float, 4>{0.5F, 0.25F, 0, 1}));
+    QVERIFY(m_control->hue() == hue);
+}
+
+void tst_ColorControl::wheelWhoseSignalsAreBlocked()
+{
+    m_wheel->blockSignals(true);
+    WheelPointer pointer(m_wheel);
+
+    pointer.press({60, 90});
+    pointer.release();
+
+    QCOMPARE(m_client->take(), QStringLiteral("started changed color check finished"));
+    QVERIFY(m_control->value() == m_wheel->value());
+}
+
+/// The drag goes on from the pointer, with the control's new value for the part not dragged.
+void tst_ColorControl::clientSetsAnotherColourInAWheelDrag()
+{
+    m_control->setColorRGBA(0.5F, 0.25F, 0.25F, 1);
+    m_client->onColor = [this](const std::array<float, 4> &) {
+        m_control->setColorRGBA(0.2F, 0.2F, 0.2F, 0.5F);
+    };
+    WheelPointer pointer(m_wheel);
+
+    pointer.press({80, 40});
+    QCOMPARE(m_wheel->value(), double(0.2F));
+    QCOMPARE(m_wheel->saturation(), 0.0);
+    m_client->onColor = nullptr;
+    pointer.move({80, 120});
+    pointer.release();
+
+    QVERIFY(m_wheel->saturation() > 0.3);
+    QVERIFY(std::abs(m_wheel->hue() - 0.75) < 1e-9);
+    QCOMPARE(m_wheel->value(), double(0.2F));
+    QCOMPARE(m_client->last[3], 0.5F);
+}
+
 void tst_ColorControl::echoKeepsTheWidgets_data()
 {
     QTest::addColumn<std::function<float(float)>>("store");
@@ -849,6 +967,7 @@ void tst_ColorControl::clientMayDelete()
     QFETCH(QString, victim);
     QFETCH(bool, byDrag);
     const QPointer<Slider> red = slider(0);
+    const QPointer<ColorWheel> wheel = m_wheel;
     int calls = 0;
     m_client->onColor = [&, victim](const std::array<float, 4> &) {
         ++calls;
@@ -880,6 +999,13 @@ void tst_ColorControl::clientMayDelete()
     QVERIFY(!m_control || !m_control->isInteracting());
     if (m_client && m_control)
         QCOMPARE(m_client->take().count(QStringLiteral("finished")), byDrag ? 1 : 0);
+    if (!wheel)
+        return;
+    WheelPointer pointer(wheel); // alone, or deleting what is left
+    pointer.press({60, 90});
+    if (wheel)
+        pointer.release();
+    QVERIFY(!m_control || !m_control->isInteracting());
 }
 
 void tst_ColorControl::checkPointMayDelete_data()

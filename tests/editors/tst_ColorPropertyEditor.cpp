@@ -9,6 +9,7 @@
 #include "support/SignalLog.h"
 #include "support/SliderDrag.h"
 #include "support/Wheel.h"
+#include "support/WheelPointer.h"
 
 #include <QGridLayout>
 #include <QPixmap>
@@ -82,6 +83,25 @@ QColor inBytes(const QColor &color)
     return QColor(color.red(), color.green(), color.blue(), color.alpha());
 }
 
+/// Where the wheel of the editor's size shows a hue and a saturation.
+QPointF discPoint(double hue, double saturation)
+{
+    constexpr double kCentre = 80;
+    constexpr double kRadius = 59;
+    const double angle = 2 * M_PI * hue;
+    return {kCentre + saturation * kRadius * std::cos(angle),
+            kCentre - saturation * kRadius * std::sin(angle)};
+}
+
+/// Where it shows a value on the ring around.
+QPointF ringPoint(double value)
+{
+    constexpr double kCentre = 80;
+    constexpr double kRadius = 70;
+    const double angle = (240 - 300 * value) * M_PI / 180;
+    return {kCentre + kRadius * std::cos(angle), kCentre - kRadius * std::sin(angle)};
+}
+
 QStringList words(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '));
@@ -129,6 +149,15 @@ private Q_SLOTS:
     void sliderKeepsTheAlpha();
     void huesOfGreyAndBlackAreKept();
     void echoInBytesKeepsTheSlidersPlace();
+
+    void wheelDragIsOneRun();
+    void wheelKeysAreRuns();
+    void wheelEscapeBringsTheColourBack();
+    void wheelFollowsThePointerThroughEchoes_data();
+    void wheelFollowsThePointerThroughEchoes();
+    void ringKeepsTheHueThroughEchoes();
+    void wheelMayDieInItsDrag_data();
+    void wheelMayDieInItsDrag();
 
     void deletionOfTheEditor_data();
     void deletionOfTheEditor();
@@ -605,6 +634,182 @@ void tst_ColorPropertyEditor::echoInBytesKeepsTheSlidersPlace()
     QCOMPARE(subject.color(), QColor(3, 0, 0));
     subject.editor->setValue(QColor(90, 0, 0)); // no echo
     QVERIFY(std::abs(subject.slider(0)->realValue() - 90.0 / 255) < 1e-4);
+}
+
+void tst_ColorPropertyEditor::wheelDragIsOneRun()
+{
+    Subject subject;
+    subject.show();
+    subject.editor->setValue(QVector4D(0.5F, 0.25F, 0.25F, 0.5F));
+    SignalLog log(subject.editor.get());
+    WheelPointer pointer(subject.wheel());
+
+    pointer.press(discPoint(0.25, 0.75));
+    QCOMPARE(log.take(), words("start value"));
+    pointer.move(discPoint(0.5, 0.75));
+    pointer.move(discPoint(0.75, 0.5));
+    QCOMPARE(log.take(), words("value value"));
+    pointer.release();
+    QCOMPARE(log.take(), words("end"));
+
+    QVERIFY(std::abs(double(subject.color().hsvHueF()) - 0.75) < 1e-3);
+    QVERIFY(std::abs(double(subject.color().hsvSaturationF()) - 0.5) < 1e-3);
+    QVERIFY(std::abs(double(subject.color().valueF()) - 0.5) < 1e-3);
+    QVERIFY(std::abs(double(subject.color().alphaF()) - 0.5) < 1e-3);
+    QVERIFY(std::abs(subject.slider(2)->realValue() - 0.5) < 1e-3);
+    QCOMPARE(subject.texts(), QStringLiteral("0.5 0.25 0.25")); // the host has not echoed yet
+}
+
+void tst_ColorPropertyEditor::wheelKeysAreRuns()
+{
+    Subject subject;
+    subject.show();
+    subject.editor->setValue(QColor(128, 64, 64));
+    subject.wheel()->setFocus();
+    QTRY_VERIFY(subject.wheel()->hasFocus());
+    SignalLog log(subject.editor.get());
+
+    QTest::keyClick(subject.wheel(), Qt::Key_Right);
+    QCOMPARE(log.take(), words("start value end"));
+    QTest::keyClick(subject.wheel(), Qt::Key_PageDown);
+    QCOMPARE(log.take(), words("start value end"));
+
+    QVERIFY(std::abs(subject.wheel()->hue() - 1.0 / 360) < 1e-4);
+    subject.editor->setValue(QColor(128, 128, 128));
+    QTest::keyClick(subject.wheel(), Qt::Key_Right); // turns a hue that the host cannot see
+    QCOMPARE(log.take(), words("start end"));
+}
+
+void tst_ColorPropertyEditor::wheelEscapeBringsTheColourBack()
+{
+    Subject subject;
+    subject.show();
+    subject.editor->setValue(QVector4D(0.1234F, 0.2345F, 0.3456F, 0.4567F));
+    const QColor before = subject.color();
+    SignalLog log(subject.editor.get());
+    WheelPointer pointer(subject.wheel());
+
+    pointer.press(discPoint(0.1, 0.9));
+    QTest::keyClick(subject.wheel(), Qt::Key_Escape);
+    pointer.move(discPoint(0.3, 0.3));
+    pointer.release();
+
+    QCOMPARE(log.take(), words("start value value end"));
+    QCOMPARE(subject.color(), before);
+}
+
+void tst_ColorPropertyEditor::wheelFollowsThePointerThroughEchoes_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<double>("saturation");
+
+    QTest::newRow("bright") << QColor(200, 100, 100) << 0.8;
+    QTest::newRow("near grey") << QColor(128, 128, 129) << 0.03;
+    QTest::newRow("near black") << QColor(2, 2, 3) << 0.5;
+}
+
+/// A host that stores bytes cannot tell most of these hues apart, and the marker stays put.
+void tst_ColorPropertyEditor::wheelFollowsThePointerThroughEchoes()
+{
+    QFETCH(QColor, color);
+    QFETCH(double, saturation);
+    Subject subject;
+    subject.show();
+    subject.editor->setValue(color);
+    connect(subject.editor.get(), &PropertyEditor::valueChanged, this,
+            [&] { subject.editor->setValue(inBytes(subject.color())); });
+    WheelPointer pointer(subject.wheel());
+    const double value = subject.wheel()->value();
+
+    pointer.press(discPoint(0.37, 0.97));
+    for (int step = 0; step < 90; ++step) {
+        const double hue = step / 90.0;
+        pointer.move(discPoint(hue, saturation));
+        QVERIFY(std::abs(subject.wheel()->hue() - hue) < 1e-9);
+        QVERIFY(std::abs(subject.wheel()->saturation() - saturation) < 1e-9);
+        QCOMPARE(subject.wheel()->value(), value);
+    }
+    pointer.release();
+
+    QCOMPARE(subject.color(), inBytes(subject.color()));
+    QCOMPARE(subject.field(0)->value(), std::round(subject.color().red() / 255.0 * 1e4) / 1e4);
+}
+
+void tst_ColorPropertyEditor::ringKeepsTheHueThroughEchoes()
+{
+    Subject subject;
+    subject.show();
+    subject.editor->setValue(QColor(169, 103, 51));
+    connect(subject.editor.get(), &PropertyEditor::valueChanged, this,
+            [&] { subject.editor->setValue(inBytes(subject.color())); });
+    const double hue = subject.wheel()->hue();
+    const double saturation = subject.wheel()->saturation();
+    WheelPointer pointer(subject.wheel());
+
+    pointer.press(ringPoint(0.6));
+    for (int step = 60; step >= -20; --step) { // into the gap, where the value stays at 0
+        pointer.move(ringPoint(step / 100.0));
+        QCOMPARE(subject.wheel()->hue(), hue);
+        QCOMPARE(subject.wheel()->saturation(), saturation);
+    }
+    QCOMPARE(subject.wheel()->value(), 0.0);
+    QCOMPARE(subject.color(), QColor(Qt::black));
+    for (int step = -20; step <= 80; ++step)
+        pointer.move(ringPoint(step / 100.0));
+    pointer.release();
+
+    QCOMPARE(subject.wheel()->hue(), hue);
+    QCOMPARE(subject.wheel()->saturation(), saturation);
+    QVERIFY(std::abs(subject.wheel()->value() - 0.8) < 1e-9);
+}
+
+void tst_ColorPropertyEditor::wheelMayDieInItsDrag_data()
+{
+    QTest::addColumn<QString>("signal");
+    QTest::addColumn<bool>("withWidget");
+
+    for (const char *signal : {"start", "value", "end"}) {
+        for (const bool withWidget : {false, true}) {
+            QTest::newRow(qPrintable(QLatin1String(signal)
+                                     + QLatin1String(withWidget ? ", widget and all" : "")))
+                << QString::fromLatin1(signal) << withWidget;
+        }
+    }
+}
+
+void tst_ColorPropertyEditor::wheelMayDieInItsDrag()
+{
+    QFETCH(QString, signal);
+    QFETCH(bool, withWidget);
+    Subject subject;
+    subject.show();
+    const QPointer<ColorWheel> wheel = subject.wheel();
+    const auto destroy = [&] {
+        subject.editor.reset();
+        if (withWidget)
+            subject.widget.reset();
+    };
+    auto *const editor = subject.editor.get();
+    if (signal == QStringLiteral("start"))
+        connect(editor, &PropertyEditor::startInteractiveChange, this, destroy);
+    else if (signal == QStringLiteral("value"))
+        connect(editor, &PropertyEditor::valueChanged, this, destroy);
+    else
+        connect(editor, &PropertyEditor::endInteractiveChange, this, destroy);
+
+    {
+        WheelPointer pointer(wheel);
+        pointer.press(discPoint(0.1, 0.5));
+        if (wheel)
+            pointer.move(discPoint(0.2, 0.5));
+        if (wheel)
+            pointer.release();
+    }
+
+    QVERIFY(!subject.editor);
+    QCOMPARE(wheel.isNull(), withWidget);
+    if (wheel)
+        QVERIFY(std::abs(wheel->hue() - 0.2) < 1e-9); // goes on alone
 }
 
 void tst_ColorPropertyEditor::deletionOfTheEditor_data()

@@ -79,13 +79,18 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     return row;
 }
 
-void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
+void announceDrags(QAbstractSlider *slider, PropertyEditor *editor)
 {
-    slider->installEventFilter(editor);
     QObject::connect(slider, &QAbstractSlider::sliderPressed, editor,
                      &PropertyEditor::startInteractiveChange);
     QObject::connect(slider, &QAbstractSlider::sliderReleased, editor,
                      &PropertyEditor::endInteractiveChange);
+}
+
+void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
+{
+    slider->installEventFilter(editor);
+    announceDrags(slider, editor);
 }
 
 void setCompactSize(QAbstractSpinBox *spinBox)

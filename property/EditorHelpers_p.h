@@ -68,6 +68,9 @@ int hundredthOf(int minimum, int maximum);
 /// A parentless row without margins holding the controls from left to right; it owns them.
 QWidget *makeRow(std::initializer_list<QWidget *> controls);
 
+/// Makes a drag of slider one interactive run of editor.
+void announceDrags(QAbstractSlider *slider, PropertyEditor *editor);
+
 /// Makes a drag of slider one interactive run of editor, and lets editor filter its events.
 void watchSlider(QAbstractSlider *slider, PropertyEditor *editor);
 

@@ -4,6 +4,7 @@
 #include "property/PropertyVocabulary.h"
 #include "property/editors/ActionPropertyEditor.h"
 #include "property/editors/BooleanPropertyEditor.h"
+#include "property/editors/ColorPropertyEditor.h"
 #include "property/editors/EnumerationPropertyEditor.h"
 #include "property/editors/FilenamePropertyEditor.h"
 #include "property/editors/FloatPropertyEditor.h"
@@ -36,6 +37,7 @@ void PropertyEditorPanel::InitialiseRegistry()
         {kPropertyTypeFloat, FloatPropertyEditor::Factory},
         {kPropertyTypePercent, PercentPropertyEditor::Factory},
         {kPropertyTypeBoolean, BooleanPropertyEditor::Factory},
+        {kPropertyTypeColor, ColorPropertyEditor::Factory},
         {kPropertyTypeStaticText, StaticTextPropertyEditor::Factory},
         {kPropertyTypeString, StringPropertyEditor::Factory},
         {kPropertyTypeText, TextPropertyEditor::Factory},

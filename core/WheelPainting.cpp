@@ -37,6 +37,7 @@ WheelPart areaOf(const WheelGeometry &wheel)
 struct PixelGrid
 {
     double ratio = 1;
+    bool isAligned = false; // no painter that turns the wheel, nor draws it in an extreme size
     bool isOddWide = false; // the wheel's centre is in the middle of a pixel
     bool isOddHigh = false;
     QPointF shift; // to the nearest place where that is so, in logical pixels
@@ -65,7 +66,8 @@ PixelGrid pixelGridOf(const QPainter &painter, const WheelGeometry &wheel)
     grid.ratio = std::clamp(ratio, kSmallestRatio, kLargestRatio);
     grid.isOddWide = isOdd(2 * wheel.center.x() * grid.ratio);
     grid.isOddHigh = isOdd(2 * wheel.center.y() * grid.ratio);
-    if (isPlain && grid.ratio == ratio) {
+    grid.isAligned = isPlain && grid.ratio == ratio;
+    if (grid.isAligned) {
         const QPointF center = transform.map(wheel.center);
         const QPointF onGrid(nearestOnGrid(center.x(), grid.isOddWide),
                              nearestOnGrid(center.y(), grid.isOddHigh));
@@ -239,23 +241,28 @@ void WheelPainter::drawBar(const QPointF &middle, double beyond, double width, c
                         m_wheel.center + outwards * (m_wheel.outerRadius + beyond));
 }
 
-/// The layers of a disabled wheel are put together first and then let fade as one.
-void paintFadedLayers(QPainter *painter, const WheelGeometry &wheel, const WheelPicture &picture,
+/// Puts the layers together apart and paints them as one: to let them fade, and where they do not lie
+/// on the painter's grid of pixels, where they would show seams.
+void paintLayersAsOne(QPainter *painter, const WheelGeometry &wheel, const WheelPicture &picture,
                       const PixelGrid &grid, WheelImages *images)
 {
-    const int width = int(std::ceil(2 * wheel.center.x() * grid.ratio));
-    const int height = int(std::ceil(2 * wheel.center.y() * grid.ratio));
-    QPixmap layers(width, height);
+    const QPointF center(nearestOnGrid(wheel.center.x() * grid.ratio, grid.isOddWide),
+                         nearestOnGrid(wheel.center.y() * grid.ratio, grid.isOddHigh));
+    QPixmap layers(int(std::ceil(2 * center.x())), int(std::ceil(2 * center.y())));
     layers.fill(Qt::transparent);
     {
         QPainter layerPainter(&layers);
+        layerPainter.translate(center);
         layerPainter.scale(grid.ratio, grid.ratio);
+        layerPainter.translate(-wheel.center);
         WheelPainter(&layerPainter, wheel, picture).paintLayers(images, grid);
     }
     const QTransform before = painter->transform();
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, !grid.isAligned);
+    painter->setOpacity(picture.isEnabled ? 1 : kDisabledOpacity);
+    painter->translate(wheel.center);
     painter->scale(1 / grid.ratio, 1 / grid.ratio);
-    painter->setOpacity(kDisabledOpacity);
-    painter->drawPixmap(0, 0, layers);
+    painter->drawPixmap(-center, layers);
     painter->setOpacity(1);
     painter->setTransform(before);
 }
@@ -276,10 +283,10 @@ void paintWheel(QPainter *painter, const WheelGeometry &wheel, const WheelPictur
     const PixelGrid grid = pixelGridOf(*painter, wheel);
     painter->translate(grid.shift);
     WheelPainter wheelPainter(painter, wheel, picture);
-    if (picture.isEnabled)
+    if (picture.isEnabled && grid.isAligned)
         wheelPainter.paintLayers(images, grid);
     else
-        paintFadedLayers(painter, wheel, picture, grid, images);
+        paintLayersAsOne(painter, wheel, picture, grid, images);
     if (picture.showsFocus)
         wheelPainter.paintFocusMark();
     wheelPainter.paintMarkers();

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void everyPixelHasItsColor();
     void oddSizes_data();
     void oddSizes();
+    void fractionsOfPixels_data();
+    void fractionsOfPixels();
     void disabledFades_data();
     void disabledFades();
     void cornersStayTransparent_data();
@@ -289,6 +291,38 @@ void tst_ColorWheelPainting::oddSizes()
     const WheelGeometry wheel = wheelGeometry(m_wheel->displayMode(), m_wheel->size());
     const Comparison comparison = compare(picture, wheel, kLight, 1);
     QVERIFY2(comparison.worst <= 2, qPrintable(QString::number(comparison.worst)));
+}
+
+void tst_ColorWheelPainting::fractionsOfPixels_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("enabled");
+
+    for (int mode = 0; mode < 3; ++mode) {
+        QTest::addRow("mode %d, enabled", mode) << mode << true;
+        QTest::addRow("mode %d, disabled", mode) << mode << false;
+    }
+}
+
+/// The centre may lie anywhere in a pixel; then the whole wheel moves by less than one, in one piece.
+void tst_ColorWheelPainting::fractionsOfPixels()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, enabled);
+    m_wheel->setDisplayMode(ColorWheel::DisplayMode(mode));
+    m_wheel->setEnabled(enabled);
+    for (const int side : {121, 122, 123, 124}) {
+        for (const double ratio : {1.25, 1.5, 1.75}) {
+            m_wheel->resize(side, side);
+            const QImage picture = paint(m_wheel.get(), ratio, kLight);
+            const WheelGeometry wheel = wheelGeometry(m_wheel->displayMode(), m_wheel->size());
+            const Comparison comparison = compare(picture, wheel, kLight, enabled ? 1 : 0.35);
+            QVERIFY2(
+                comparison.worst <= 5,
+                qPrintable(
+                    QStringLiteral("%1 at %2: %3").arg(side).arg(ratio).arg(comparison.worst)));
+        }
+    }
 }
 
 void tst_ColorWheelPainting::disabledFades_data()

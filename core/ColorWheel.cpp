@@ -82,17 +82,17 @@ void ColorWheel::setDisplayMode(DisplayMode mode)
 
 ColorWheel::DisplayMode ColorWheel::displayMode() const
 {
-    return m_view->displayMode;
+    return DisplayMode(m_view->displayMode);
 }
 
 void ColorWheel::setInteractionMode(InteractionMode mode)
 {
-    m_view->interactionMode = mode == Relative ? Relative : Absolute;
+    m_view->isRelative = mode == Relative;
 }
 
 ColorWheel::InteractionMode ColorWheel::interactionMode() const
 {
-    return m_view->interactionMode;
+    return m_view->isRelative ? Relative : Absolute;
 }
 
 float ColorWheel::ringValue() const
@@ -345,7 +345,8 @@ void ColorWheel::editAtOnce(const Hsv &hsv)
 
 void ColorWheel::beginDrag(WheelPart part, const QPointF &point, Qt::KeyboardModifiers modifiers)
 {
-    m_input->drag.emplace(m_view->geometry(), part, point, m_view->hsv, m_view->interactionMode);
+    const DragStart start = m_view->isRelative ? DragStart::AtMarker : DragStart::AtPointer;
+    m_input->drag.emplace(m_view->geometry(), part, point, m_view->hsv, start);
     m_input->trackedMouse = hasMouseTracking();
     setMouseTracking(true);
     if (m_input->interaction.begin(Kind::Drag) && !m_input->drag->holdsMarker())

@@ -39,9 +39,9 @@ bool isOnMarker(const WheelGeometry &wheel, WheelPart part, const QPointF &point
 } // namespace
 
 WheelDrag::WheelDrag(const WheelGeometry &wheel, WheelPart part, const QPointF &point,
-                     const Hsv &hsv, ColorWheel::InteractionMode mode)
+                     const Hsv &hsv, DragStart start)
     : m_part(part)
-    , m_holdsMarker(mode == ColorWheel::Relative || isOnMarker(wheel, part, point, hsv))
+    , m_holdsMarker(start == DragStart::AtMarker || isOnMarker(wheel, part, point, hsv))
     , m_pointer(point)
     , m_angle(angleAt(wheel, point))
 {

@@ -2,7 +2,12 @@
 
 #include "core/WheelGeometry_p.h"
 
+#include <QObject>
+
 namespace Tessark::UI {
+
+/// Whether a press takes the colour under the pointer or takes hold of the marker where it is.
+enum class DragStart { AtPointer, AtMarker };
 
 /**
  * One drag on a wheel, in numbers: turns where the pointer goes into colours.
@@ -13,10 +18,9 @@ namespace Tessark::UI {
 class WheelDrag
 {
 public:
-    /// Begins at a point of the part. A press on the marker, and any press in Relative mode, takes
-    /// hold of the marker where it is.
+    /// Begins at a point of the part. A press on the marker takes hold of it whatever the start.
     WheelDrag(const WheelGeometry &wheel, WheelPart part, const QPointF &point, const Hsv &hsv,
-              ColorWheel::InteractionMode mode);
+              DragStart start);
 
     /// Whether the press itself leaves the colour alone.
     bool holdsMarker() const;

@@ -1,5 +1,7 @@
 #include "core/WheelGeometry_p.h"
 
+#include "core/ColorWheel.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -91,7 +93,7 @@ QPointF nearestOfTriangle(const QPointF &point)
 
 } // namespace
 
-WheelGeometry wheelGeometry(ColorWheel::DisplayMode mode, const QSizeF &size)
+WheelGeometry wheelGeometry(int displayMode, const QSizeF &size)
 {
     WheelGeometry wheel;
     wheel.side = std::min(size.width(), size.height());
@@ -105,12 +107,12 @@ WheelGeometry wheelGeometry(ColorWheel::DisplayMode mode, const QSizeF &size)
     }
     const double side = wheel.side;
     wheel.outerRadius = side / 2 - kFocusMargin;
-    if (mode == ColorWheel::HueRingTriangle) {
+    if (displayMode == ColorWheel::HueRingTriangle) {
         wheel.ring = WheelPart::HueRing;
         const double width = share(side, 0.12, std::min(10.0, side / 7), 28);
         wheel.ringInnerRadius = wheel.outerRadius - width;
         wheel.triangleRadius = wheel.ringInnerRadius - 2;
-    } else if (mode == ColorWheel::DiscAndValueRing) {
+    } else if (displayMode == ColorWheel::DiscAndValueRing) {
         wheel.ring = WheelPart::ValueRing;
         const double width = share(side, 0.09, std::min(8.0, side / 8), 24);
         const double gap = share(side, 0.025, std::min(3.0, side / 20), 6);

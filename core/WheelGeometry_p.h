@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/ColorMath_p.h"
-#include "core/ColorWheel.h"
 
 #include <QPointF>
 #include <QSizeF>
@@ -26,7 +25,8 @@ struct WheelGeometry
     double triangleRadius = 0;
 };
 
-WheelGeometry wheelGeometry(ColorWheel::DisplayMode mode, const QSizeF &size);
+/// The geometry of a wheel in one of the modes of ColorWheel::DisplayMode.
+WheelGeometry wheelGeometry(int displayMode, const QSizeF &size);
 
 /// The part that a press at the point takes. Fingers reach further beyond the ring.
 enum class PointerKind { Mouse, Finger };

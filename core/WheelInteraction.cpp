@@ -1,5 +1,6 @@
 #include "core/WheelInteraction_p.h"
 
+#include "core/ColorWheel.h"
 #include "core/WheelView_p.h"
 
 #include <QPointer>

@@ -1,5 +1,6 @@
 #include "core/WheelView_p.h"
 
+#include "core/ColorWheel.h"
 #include "core/ColorWheelInterface_p.h"
 
 #include <QPainter>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/ColorLink_p.h"
-#include "core/ColorWheel.h"
 #include "core/WheelPainting_p.h"
 
 #include <QPointer>
@@ -22,8 +21,8 @@ struct WheelView
 
     ColorWheel *wheel; // the owner of this object
     Hsv hsv;
-    ColorWheel::DisplayMode displayMode = ColorWheel::HueSaturationDisc;
-    ColorWheel::InteractionMode interactionMode = ColorWheel::Absolute;
+    int displayMode = 0;     // a ColorWheel::DisplayMode
+    bool isRelative = false; // the interaction mode
     bool wheelNeedsFocus = true;
     bool isUserChoice = false; // hsv is what the user chose last: an echo of it changes nothing
     QPointer<ColorLink> link;  // null: the wheel works alone

@@ -1,3 +1,4 @@
+#include "core/ColorWheel.h"
 #include "core/WheelGeometry_p.h"
 
 #include <QtTest>

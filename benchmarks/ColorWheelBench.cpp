@@ -89,6 +89,26 @@ private:
     QPixmap m_ring;
 };
 
+/// What happens to a wheel before its i-th paint.
+using Change = std::function<void(ColorWheel *, int i)>;
+
+void changeNothing(ColorWheel *, int) {}
+
+void moveInDisc(ColorWheel *wheel, int i)
+{
+    wheel->setHsv(0.3 + 0.004 * i, kColor.saturation, wheel->value());
+}
+
+void moveInRing(ColorWheel *wheel, int i)
+{
+    wheel->setRingValue(float(0.3 + 0.004 * i));
+}
+
+void setOtherColor(ColorWheel *wheel, int i)
+{
+    wheel->setHsv(0.3 + 0.004 * i, kColor.saturation, 0.3 + 0.004 * i);
+}
+
 /// Microseconds of one paint.
 double paintTime(QWidget *widget, QImage *image)
 {
@@ -99,17 +119,29 @@ double paintTime(QWidget *widget, QImage *image)
     return seconds * 1e6 / kPaints;
 }
 
-void comparePaints(const char *title, QWidget *ours, QWidget *theirs, int repetitions,
-                   double target)
+/// The same with a change before each; that takes next to nothing.
+double paintTime(ColorWheel *wheel, const Change &change, QImage *image)
+{
+    const double seconds = secondsOf([&] {
+        for (int i = 0; i < kPaints; ++i) {
+            change(wheel, i);
+            wheel->render(image);
+        }
+    });
+    return seconds * 1e6 / kPaints;
+}
+
+void comparePaints(const char *title, ColorWheel *ours, const Change &change, QWidget *theirs,
+                   int repetitions, double target)
 {
     QImage image = canvas();
-    for (QWidget *widget : {ours, theirs}) {
+    for (QWidget *widget : {static_cast<QWidget *>(ours), theirs}) {
         widget->resize(kSide, kSide);
         widget->render(&image);
     }
     std::vector<double> ourTimes, theirTimes, ratios;
     for (int i = 0; i < repetitions; ++i) {
-        ourTimes.push_back(paintTime(ours, &image));
+        ourTimes.push_back(paintTime(ours, change, &image));
         theirTimes.push_back(paintTime(theirs, &image));
         ratios.push_back(ourTimes.back() / theirTimes.back());
     }
@@ -117,13 +149,13 @@ void comparePaints(const char *title, QWidget *ours, QWidget *theirs, int repeti
                 median(ratios), target);
 }
 
-void comparePaintsOfMode(const char *title, ColorWheel::DisplayMode mode, double value,
+void comparePaintsOfMode(const char *title, ColorWheel::DisplayMode mode, const Change &change,
                          QWidget *theirs, int repetitions, double target)
 {
     ColorWheel wheel;
     wheel.setDisplayMode(mode);
-    wheel.setHsv(kColor.hue, kColor.saturation, value);
-    comparePaints(title, &wheel, theirs, repetitions, target);
+    wheel.setHsv(kColor.hue, kColor.saturation, kColor.value);
+    comparePaints(title, &wheel, change, theirs, repetitions, target);
 }
 
 void measureFirstPaint(int repetitions, double dialTime)
@@ -160,7 +192,7 @@ void measureDragStep(int repetitions)
     const int imagesBefore = kitCounters().imagesMade;
     sendMouse(&wheel, QEvent::MouseButtonPress, {80, 80}, Qt::LeftButton);
     std::vector<double> stepTimes, ratios;
-    const double paint = paintTime(&wheel, &image);
+    const double paint = paintTime(&wheel, moveInDisc, &image);
     for (int i = 0; i < repetitions; ++i) {
         const double seconds = secondsOf([&] {
             for (int step = 0; step < kDragSteps; ++step)
@@ -191,16 +223,19 @@ int main(int argc, char **argv)
     std::printf("%-44s %9s %9s %7s %7s\n", "", "wheel", "other", "ratio", "target");
     PlainLayers plain;
     QDial dial;
-    comparePaintsOfMode("disc and ring : images and markers", ColorWheel::DiscAndValueRing,
-                        kColor.value, &plain, repetitions, 2);
-    comparePaintsOfMode("the same at value 1", ColorWheel::DiscAndValueRing, 1, &plain, repetitions,
-                        2);
-    comparePaintsOfMode("disc and ring : QDial", ColorWheel::DiscAndValueRing, kColor.value, &dial,
-                        repetitions, 1);
-    comparePaintsOfMode("disc : QDial", ColorWheel::HueSaturationDisc, kColor.value, &dial,
-                        repetitions, 1);
-    comparePaintsOfMode("triangle : QDial", ColorWheel::HueRingTriangle, kColor.value, &dial,
-                        repetitions, 1);
+    const auto compareBoth = [&](const char *title, const Change &change) {
+        comparePaintsOfMode(title, ColorWheel::DiscAndValueRing, change, &plain, repetitions, 2);
+    };
+    compareBoth("painted again : images and markers", changeNothing);
+    compareBoth("dragged in the disc : images and markers", moveInDisc);
+    compareBoth("dragged in the ring : images and markers", moveInRing);
+    compareBoth("all other colours : images and markers", setOtherColor);
+    comparePaintsOfMode("disc and ring, other colours : QDial", ColorWheel::DiscAndValueRing,
+                        setOtherColor, &dial, repetitions, 1);
+    comparePaintsOfMode("disc, other colours : QDial", ColorWheel::HueSaturationDisc, setOtherColor,
+                        &dial, repetitions, 1);
+    comparePaintsOfMode("triangle, other colours : QDial", ColorWheel::HueRingTriangle,
+                        setOtherColor, &dial, repetitions, 1);
     QImage image = canvas();
     measureFirstPaint(repetitions, paintTime(&dial, &image));
     measureDragStep(repetitions);

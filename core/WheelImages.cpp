@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
+#include <vector>
 
 namespace Tessark::UI {
 
@@ -123,9 +125,11 @@ int byteOf(float fraction)
     return int(fraction * 255 + 0.5f);
 }
 
-QRgb black(float alpha)
+/// Premultiplied.
+QRgb grey(float value, float alpha)
 {
-    return qRgba(0, 0, 0, byteOf(alpha));
+    const int level = byteOf(value * alpha);
+    return qRgba(level, level, level, byteOf(alpha));
 }
 
 float bounded(float fraction)
@@ -185,20 +189,8 @@ QImage hueRingImage(const WheelImageSpec &spec)
         [](float) { return 1.0f; });
 }
 
-QImage discShadeImage(const WheelImageSpec &spec)
-{
-    const float outer = float(spec.outerRadius);
-    Canvas canvas(spec);
-    canvas.forEachPixel(0, (canvas.height() + 1) / 2, [&](int column, int row, const Pixel &pixel) {
-        const QRgb color = black(coverageOfCover(outer - pixel.radius));
-        canvas.set(column, row, color);
-        canvas.setMirroredInY(column, row, color);
-    });
-    return canvas.takeImage();
-}
-
-/// The right half, from the middle of the arc to its bright end at 5 o'clock; in the left half black
-/// is as opaque as it is transparent at the mirrored place.
+/// The right half, from the middle of the arc to its bright end at 5 o'clock; the value of the left
+/// half is what the mirrored place lacks.
 QImage valueRingImage(const WheelImageSpec &spec)
 {
     const float outer = float(spec.outerRadius);
@@ -213,12 +205,12 @@ QImage valueRingImage(const WheelImageSpec &spec)
         canvas.width() / 2, canvas.height(), [&](int column, int row, const Pixel &pixel) {
             const float fromEnd = pixel.x * sine + pixel.y * cosine;
             const float alpha =
-                coverageOfCover(std::min({outer - pixel.radius, pixel.radius - inner, fromEnd}));
+                coverage(std::min({outer - pixel.radius, pixel.radius - inner, fromEnd}));
             if (alpha <= 0)
                 return;
             const float darkness = bounded((meter.angleOf(pixel) - brightEnd) / arc);
-            canvas.set(column, row, black(alpha * darkness));
-            canvas.setMirroredInX(column, row, black(alpha * (1 - darkness)));
+            canvas.set(column, row, grey(1 - darkness, alpha));
+            canvas.setMirroredInX(column, row, grey(darkness, alpha));
         });
     return canvas.takeImage();
 }
@@ -265,8 +257,6 @@ QImage makeImage(const WheelImageSpec &spec)
     switch (spec.layer) {
     case WheelLayer::Disc:
         return discImage(spec);
-    case WheelLayer::DiscShade:
-        return discShadeImage(spec);
     case WheelLayer::DiscAndRing:
         return discAndRingImage(spec);
     case WheelLayer::HueRing:
@@ -288,54 +278,118 @@ QString cacheKeyOf(const WheelImageSpec &spec)
         .arg(int(spec.isOddHigh));
 }
 
-/// The arc's outline around the origin, y downwards.
-QPolygonF ringOutline(const WheelImageSpec &spec)
+/// A factor for each byte of a row of pixels, in 256ths; alpha stays.
+std::vector<quint16> factorsOf(QRgb color, int pixels)
 {
-    constexpr int kSteps =
-        150; // of 2 degrees: within 0.03 pixels of the circle up to a radius of 200
-    QPolygonF outline;
-    const auto addPoint = [&outline](double radius, int step) {
-        const double angle = kBrightEnd + (kDarkEnd - kBrightEnd) * step / kSteps;
-        outline.append(QPointF(radius * std::cos(angle), -radius * std::sin(angle)));
+    const QRgb opaque = color | 0xff000000;
+    std::array<uchar, sizeof(QRgb)> bytes{};
+    std::memcpy(bytes.data(), &opaque, sizeof(QRgb)); // in the order in which pixels have them
+    std::array<quint16, sizeof(QRgb)> pixelFactors{};
+    std::transform(bytes.begin(), bytes.end(), pixelFactors.begin(),
+                   [](uchar byte) { return quint16((byte * 256 + 127) / 255); });
+    std::vector<quint16> factors;
+    factors.reserve(pixelFactors.size() * std::size_t(pixels));
+    for (int i = 0; i < pixels; ++i)
+        factors.insert(factors.end(), pixelFactors.begin(), pixelFactors.end());
+    return factors;
+}
+
+/// In 16 bits, so that compilers do many at once.
+void multiply(const uchar *from, const quint16 *factors, uchar *to, int bytes)
+{
+    for (int i = 0; i < bytes; ++i)
+        to[i] = uchar(quint16(from[i] * factors[i] + 128) >> 8);
+}
+
+/// Where the disc ends and the ring may begin, or outside of the disc where there is no ring.
+double edgeBetween(const WheelImageSpec &spec)
+{
+    return spec.layer == WheelLayer::DiscAndRing ? (spec.discRadius + spec.innerRadius) / 2
+                                                 : spec.outerRadius + 1;
+}
+
+/// The layers that are multiplied, as they were last asked for.
+class TintedImage
+{
+public:
+    /// Only what changed is multiplied anew: the one part that the user drags, usually.
+    const QImage &show(const QImage &source, const WheelImageSpec &spec, const WheelTint &tint)
+    {
+        const bool isOther = m_image.size() != source.size() || !(m_spec == spec);
+        if (isOther) {
+            m_image = QImage(source.size(), QImage::Format_ARGB32_Premultiplied);
+            m_image.fill(Qt::transparent);
+            m_spec = spec;
+        }
+        const int discValue = byteOf(float(tint.discValue));
+        if (isOther || discValue != m_discValue)
+            multiplyDisc(source, qRgb(discValue, discValue, discValue));
+        if (spec.layer == WheelLayer::DiscAndRing && (isOther || tint.ringColor != m_ringColor))
+            multiplyRing(source, tint.ringColor);
+        m_discValue = discValue;
+        m_ringColor = tint.ringColor;
+        return m_image;
+    }
+
+private:
+    void multiplyDisc(const QImage &source, QRgb color)
+    {
+        const int middle = source.width() / 2;
+        const Rows rows = rowsOf(source, color);
+        for (int row = 0; row < source.height(); ++row) {
+            const int half = halfWidth(edgeBetween(m_spec), row);
+            rows.multiply(row, middle - half, middle + half);
+        }
+    }
+
+    void multiplyRing(const QImage &source, QRgb color)
+    {
+        const int middle = source.width() / 2;
+        const Rows rows = rowsOf(source, color);
+        for (int row = 0; row < source.height(); ++row) {
+            const int inner = halfWidth(edgeBetween(m_spec), row);
+            const int outer = halfWidth(m_spec.outerRadius + 1, row);
+            rows.multiply(row, middle - outer, middle - inner);
+            rows.multiply(row, middle + inner, middle + outer);
+        }
+    }
+
+    /// Multiplies columns of a row.
+    struct Rows
+    {
+        const uchar *from;
+        uchar *to;
+        qsizetype stride;
+        std::vector<quint16> factors;
+
+        void multiply(int row, int begin, int end) const
+        {
+            constexpr int kBytes = sizeof(QRgb);
+            const auto first = row * stride + begin * kBytes;
+            UI::multiply(from + first, factors.data(), to + first, (end - begin) * kBytes);
+        }
     };
-    for (int step = 0; step <= kSteps; ++step)
-        addPoint(spec.outerRadius, step);
-    for (int step = kSteps; step >= 0; --step)
-        addPoint(spec.innerRadius, step);
-    return outline;
-}
 
-/// The part of a polygon on one side of a horizontal line: below it for a sign of 1, above for -1.
-/// Where the polygon falls apart, edges of no area along the line connect its pieces.
-QPolygonF cutAt(const QPolygonF &polygon, double line, int sign)
-{
-    QPolygonF cut;
-    for (int i = 0; i < polygon.size(); ++i) {
-        const QPointF &from = polygon[i];
-        const QPointF &to = polygon[(i + 1) % polygon.size()];
-        const double before = sign * (from.y() - line);
-        const double after = sign * (to.y() - line);
-        if (before >= 0)
-            cut.append(from);
-        if ((before < 0) != (after < 0))
-            cut.append(from + (to - from) * (before / (before - after)));
+    Rows rowsOf(const QImage &source, QRgb color)
+    {
+        return {source.constBits(), m_image.bits(), source.bytesPerLine(),
+                factorsOf(color, source.width())};
     }
-    return cut;
-}
 
-std::vector<QPolygonF> bandsOf(const WheelImageSpec &spec)
-{
-    constexpr int kRows = 16;
-    const QPolygonF outline = ringOutline(spec);
-    const double end = std::ceil(spec.outerRadius) + 1;
-    std::vector<QPolygonF> bands;
-    for (double top = -end + (spec.isOddHigh ? 0.5 : 0); top < end; top += kRows) {
-        const QPolygonF band = cutAt(cutAt(outline, top, 1), top + kRows, -1);
-        if (!band.isEmpty())
-            bands.push_back(band);
+    /// Half the columns of a row whose middles are in a circle; never beyond the image.
+    int halfWidth(double radius, int row) const
+    {
+        const double y = row + 0.5 - m_image.height() / 2.0;
+        const double square = radius * radius - y * y;
+        const int columns = square > 0 ? int(std::sqrt(square) + 0.5) : 0;
+        return std::min(columns, m_image.width() / 2);
     }
-    return bands;
-}
+
+    QImage m_image;
+    WheelImageSpec m_spec;
+    int m_discValue = 0;
+    QRgb m_ringColor = 0;
+};
 
 } // namespace
 
@@ -366,19 +420,15 @@ QPixmap WheelImages::image(const WheelImageSpec &spec)
     return handle.pixmap;
 }
 
-const std::vector<QPolygonF> &WheelImages::ringBands(const WheelImageSpec &spec)
+const QImage &WheelImages::tintedImage(const WheelImageSpec &spec, const WheelTint &tint)
 {
-    if (m_bands.empty() || !(m_bandsSpec == spec)) {
-        m_bandsSpec = spec;
-        m_bands = bandsOf(spec);
-    }
-    return m_bands;
+    static TintedImage s_tinted; // a wheel is done with it before another one paints
+    return s_tinted.show(image(spec).toImage(), spec, tint);
 }
 
 void WheelImages::clear()
 {
     m_handles = {};
-    m_bands.clear();
 }
 
 } // namespace Tessark::UI

@@ -1,18 +1,16 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
-#include <QPolygonF>
 
 #include <array>
-#include <vector>
 
 namespace Tessark::UI {
 
 /// The layers of a wheel that are images. None of them depends on the colour shown.
 enum class WheelLayer {
     Disc,        // hue and saturation at full value
-    DiscShade,   // black, to be laid over the disc with the opacity of the shade
-    DiscAndRing, // the disc; around it black, as opaque as the ring's value falls short of 1
+    DiscAndRing, // the disc; around it the value ring in greys
     HueRing,
     Triangle, // over the full hue: white and black of the triangle's other two corners
 };
@@ -31,6 +29,13 @@ struct WheelImageSpec
 
 bool operator==(const WheelImageSpec &left, const WheelImageSpec &right);
 
+/// What the layers that show more than one value are multiplied with.
+struct WheelTint
+{
+    double discValue = 1;
+    QRgb ringColor = 0;
+};
+
 /// The images that one wheel uses. They are made when first asked for, once in the process, and live
 /// as long as any wheel uses them, and for a while longer in the cache of pixmaps.
 class WheelImages
@@ -38,9 +43,9 @@ class WheelImages
 public:
     QPixmap image(const WheelImageSpec &spec);
 
-    /// The arc of the value ring, which is no image since its colour changes: as polygons, each in a
-    /// few rows of pixels. To fill these takes less than to fill the arc at once.
-    const std::vector<QPolygonF> &ringBands(const WheelImageSpec &spec);
+    /// The layer Disc or DiscAndRing in the colours of a moment. All wheels share it: to be painted
+    /// before the next call. Multiplying takes less than to lay translucent images over filled shapes.
+    const QImage &tintedImage(const WheelImageSpec &spec, const WheelTint &tint);
 
     void clear();
 
@@ -50,9 +55,7 @@ private:
         WheelImageSpec spec;
         QPixmap pixmap;
     };
-    std::array<Handle, 5> m_handles; // one per layer
-    WheelImageSpec m_bandsSpec;
-    std::vector<QPolygonF> m_bands;
+    std::array<Handle, 4> m_handles; // one per layer
 };
 
 } // namespace Tessark::UI

@@ -92,8 +92,7 @@ public:
     void paintFocusMark();
 
 private:
-    void paintDiscAndValueRing();
-    void paintDiscShade();
+    void paintTinted(const WheelImageSpec &spec);
     void paintTriangle();
     WheelImageSpec specOf(WheelLayer layer, double outerRadius, double innerRadius = 0) const;
     void paintImage(const WheelImageSpec &spec);
@@ -119,16 +118,19 @@ void WheelPainter::paintLayers(WheelImages *images, const PixelGrid &grid)
     m_painter->scale(1 / grid.ratio, 1 / grid.ratio);
     m_painter->setPen(Qt::NoPen);
     switch (m_wheel.ring) {
-    case WheelPart::ValueRing:
-        paintDiscAndValueRing();
+    case WheelPart::ValueRing: {
+        WheelImageSpec spec =
+            specOf(WheelLayer::DiscAndRing, m_wheel.outerRadius, m_wheel.ringInnerRadius);
+        spec.discRadius = m_wheel.discRadius * grid.ratio;
+        paintTinted(spec);
         break;
+    }
     case WheelPart::HueRing:
         paintImage(specOf(WheelLayer::HueRing, m_wheel.outerRadius, m_wheel.ringInnerRadius));
         paintTriangle();
         break;
     default:
-        paintImage(specOf(WheelLayer::Disc, m_wheel.discRadius));
-        paintDiscShade();
+        paintTinted(specOf(WheelLayer::Disc, m_wheel.discRadius));
         break;
     }
     m_painter->setTransform(before);
@@ -151,26 +153,14 @@ void WheelPainter::paintFocusMark()
     m_painter->drawEllipse(m_wheel.center, radius, radius);
 }
 
-void WheelPainter::paintDiscAndValueRing()
+void WheelPainter::paintTinted(const WheelImageSpec &spec)
 {
-    WheelImageSpec spec =
-        specOf(WheelLayer::DiscAndRing, m_wheel.outerRadius, m_wheel.ringInnerRadius);
-    spec.discRadius = m_wheel.discRadius * m_grid.ratio;
-    m_painter->setBrush(colorOf({m_picture.hsv.hue, m_picture.hsv.saturation, 1}));
-    for (const QPolygonF &band : m_images->ringBands(spec))
-        m_painter->drawPolygon(band);
-    paintImage(spec);
-    paintDiscShade();
-}
-
-void WheelPainter::paintDiscShade()
-{
-    const double shade = 1 - std::max(m_picture.hsv.value, kLeastDiscValue);
-    if (shade <= 0)
-        return;
-    m_painter->setOpacity(shade);
-    paintImage(specOf(WheelLayer::DiscShade, m_wheel.discRadius));
-    m_painter->setOpacity(1);
+    const Hsv &hsv = m_picture.hsv;
+    WheelTint tint;
+    tint.discValue = std::max(hsv.value, kLeastDiscValue);
+    tint.ringColor = colorOf({hsv.hue, hsv.saturation, 1}).rgb();
+    const QImage &image = m_images->tintedImage(spec, tint);
+    m_painter->drawImage(QPointF(-image.width() / 2.0, -image.height() / 2.0), image);
 }
 
 void WheelPainter::paintTriangle()

@@ -7,6 +7,7 @@
 
 #include <core/DisclosureButton.h>
 #include <core/LogSlider.h>
+#include <core/Slider.h>
 
 #include <QApplication>
 #include <QImage>
@@ -24,6 +25,7 @@ namespace {
 constexpr int kSetCalls = 100000;
 constexpr int kPaintCalls = 5000;
 constexpr QSize kButtonSize(16, 16);
+constexpr QSize kSliderSize(200, 24);
 
 /// Nanoseconds of one call, over so many.
 double nanosecondsOf(int calls, const std::function<void(int)> &call)
@@ -49,13 +51,14 @@ void compare(const char *title, int repetitions, int calls, const std::function<
                 median(ratios), target);
 }
 
+template <typename RealSlider>
 void compareSliders(const char *title, int repetitions, QWidget *window)
 {
-    auto *const ours = new LogSlider(Qt::Horizontal, window);
+    auto *const ours = new RealSlider(Qt::Horizontal, window);
     auto *const theirs = new QSlider(Qt::Horizontal, window);
     theirs->setRange(0, 1000);
     for (QSlider *slider : {static_cast<QSlider *>(ours), theirs}) {
-        slider->resize(200, 24);
+        slider->resize(kSliderSize);
         slider->setVisible(window->isVisible());
         slider->blockSignals(true);
     }
@@ -69,6 +72,32 @@ void compareSliders(const char *title, int repetitions, QWidget *window)
         [&](int i) { theirs->setValue(i % 1001 * 617 % 1001); }, 2.0);
     delete ours;
     delete theirs;
+}
+
+/// A gradient that stays is in Qt's cache of colour tables, a new one is not.
+enum class Gradients { Same, New };
+
+void compareSliderPaints(const char *title, int repetitions, bool enabled, Gradients gradients)
+{
+    Slider ours(Qt::Horizontal);
+    QSlider theirs(Qt::Horizontal);
+    theirs.setRange(0, 1000);
+    QImage image(kSliderSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    for (QSlider *slider : {static_cast<QSlider *>(&ours), &theirs}) {
+        slider->setFixedSize(kSliderSize);
+        slider->setValue(300);
+        slider->setEnabled(enabled);
+        slider->render(&image);
+    }
+    const auto paintOurs = [&](int i) {
+        const int green = gradients == Gradients::Same ? 103 : i % 256;
+        const int blue = gradients == Gradients::Same ? 169 : i / 256 % 256;
+        ours.setGradient(QColor(0, green, blue), QColor(255, green, blue));
+        ours.render(&image);
+    };
+    compare(
+        title, repetitions, kPaintCalls, paintOurs, [&](int) { theirs.render(&image); }, 2.0);
 }
 
 void compareButtons(const char *title, int repetitions, bool flat, const QString &styleSheet)
@@ -105,8 +134,14 @@ int main(int argc, char **argv)
     std::printf("Qt %s, median of %d, nanoseconds of processor time a call\n", qVersion(),
                 repetitions);
     std::printf("%-44s %9s %9s %7s %7s\n", "", "kit", "Qt", "ratio", "target");
-    compareSliders("blocked setRealValue : setValue, hidden", repetitions, &hidden);
-    compareSliders("blocked setRealValue : setValue, shown", repetitions, &shown);
+    compareSliders<LogSlider>("blocked LogSlider : QSlider, hidden", repetitions, &hidden);
+    compareSliders<LogSlider>("blocked LogSlider : QSlider, shown", repetitions, &shown);
+    compareSliders<Slider>("blocked Slider : QSlider, hidden", repetitions, &hidden);
+    compareSliders<Slider>("blocked Slider : QSlider, shown", repetitions, &shown);
+    compareSliderPaints("paint slider with gradient : QSlider", repetitions, true, Gradients::Same);
+    compareSliderPaints("the same disabled", repetitions, false, Gradients::Same);
+    compareSliderPaints("paint slider with new gradient : QSlider", repetitions, true,
+                        Gradients::New);
     const QString sheet = QStringLiteral("* { color: red; background: white; }");
     compareButtons("paint flat button : empty tool button", repetitions, true, QString());
     compareButtons("paint button with plate : empty tool button", repetitions, false, QString());

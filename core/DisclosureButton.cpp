@@ -174,11 +174,7 @@ bool DisclosureButton::event(QEvent *event)
 {
     if (event->type() == QEvent::DynamicPropertyChange
         && static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == kGroupProperty) {
-        // A style sheet reads the property for [group="round"] only when it polishes.
-        if (testAttribute(Qt::WA_StyleSheet)) {
-            style()->unpolish(this);
-            style()->polish(this);
-        }
+        repolish(this); // for rules with [group="round"]
         update();
     }
     return QAbstractButton::event(event);

@@ -16,6 +16,7 @@ DragCancel::Verdict DragCancel::judge(QEvent *event, double value)
     Verdict verdict = Verdict::Pass;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: // to a slider a press like any other
         notePress(*static_cast<const QMouseEvent *>(event), value);
         break;
     case QEvent::MouseMove:

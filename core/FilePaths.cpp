@@ -89,4 +89,15 @@ QString firstUsablePath(const QList<QUrl> &urls, PathKind kind)
     return QString();
 }
 
+QStringList localPaths(const QList<QUrl> &urls)
+{
+    QStringList paths;
+    for (const QUrl &url : urls) {
+        const QString path = usablePath(url, PathKind::AnyFile);
+        if (!path.isEmpty())
+            paths.append(path);
+    }
+    return paths;
+}
+
 } // namespace Tessark::UI

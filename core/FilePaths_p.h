@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 namespace Tessark::UI {
@@ -30,5 +31,9 @@ DialogStart dialogStart(const QString &name, const QString &baseDirectory);
 /// The local path of the first of urls that can serve as kind, or an empty string when none can. A
 /// file stands for its folder where a directory is wanted.
 QString firstUsablePath(const QList<QUrl> &urls, PathKind kind);
+
+/// The local paths of urls in their order, duplicates kept; URLs without one are left out. The file
+/// system is not looked at.
+QStringList localPaths(const QList<QUrl> &urls);
 
 } // namespace Tessark::UI

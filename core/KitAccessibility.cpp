@@ -1,6 +1,9 @@
 #include "core/KitAccessibility_p.h"
 
+#include "core/ColorWheel.h"
+#include "core/ColorWheelInterface_p.h"
 #include "core/LogSlider.h"
+#include "core/Slider.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -53,15 +56,27 @@ private:
     RealSlider *m_slider; // the interface is deleted with it
 };
 
+/// Null unless the object is of just this class of ours.
+template <typename Widget, typename Interface>
+QAccessibleInterface *interfaceFor(const QString &className, QObject *object)
+{
+    if (className != QLatin1String(Widget::staticMetaObject.className()))
+        return nullptr;
+    auto *const widget = qobject_cast<Widget *>(object);
+    return widget ? new Interface(widget) : nullptr;
+}
+
+/// Qt asks for the class and then for each of its bases, so a host's subclass with an interface of
+/// its own comes first.
 QAccessibleInterface *kitInterface(const QString &className, QObject *object)
 {
-    // Qt asks for the class and then for each of its bases, so a host's subclass with an interface of
-    // its own comes first.
-    if (className == QLatin1String(LogSlider::staticMetaObject.className())) {
-        if (auto *const slider = qobject_cast<LogSlider *>(object))
-            return new RealSliderInterface<LogSlider>(slider);
-    }
-    return nullptr;
+    using LogSliderInterface = RealSliderInterface<LogSlider>;
+    using SliderInterface = RealSliderInterface<Slider>;
+    if (auto *const found = interfaceFor<LogSlider, LogSliderInterface>(className, object))
+        return found;
+    if (auto *const found = interfaceFor<Slider, SliderInterface>(className, object))
+        return found;
+    return interfaceFor<ColorWheel, ColorWheelInterface>(className, object);
 }
 
 } // namespace

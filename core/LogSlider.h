@@ -8,8 +8,7 @@
 
 namespace Tessark::UI {
 
-class DragCancel;
-struct PositionRange;
+class RealPosition;
 
 /**
  * A slider whose positions are spaced evenly on a decimal logarithm.
@@ -74,25 +73,9 @@ Q_SIGNALS:
 
 protected:
     void sliderChange(SliderChange change) override;
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
-    void takeRealValue(double value);
-    void moveToRealPosition();
-    void announceRealValue();
-    void announceRange(PositionRange oldRange, int oldPosition);
-    void keepRealValueInNewRange();
-    void cancelDrag();
-
-    int m_minimumExponent = 0;
-    int m_maximumExponent = 1;
-    double m_realMinimum = 1;
-    double m_realMaximum = 10;
-    double m_realValue = 1;
-    int m_realPosition = 0;     // the position that m_realValue belongs to
-    bool m_unannounced = false; // m_realValue changed and realValueChanged() is still to come
-    bool m_wheelNeedsFocus = false;
-    std::unique_ptr<DragCancel> m_dragCancel;
+    std::unique_ptr<RealPosition> m_position;
 };
 
 } // namespace Tessark::UI

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileDialog>
+#include <QMouseEvent>
 
 namespace Tessark::UI {
 
@@ -17,5 +18,25 @@ inline bool picksDirectory(QFileDialog::FileMode mode)
 #endif
 }
 QT_WARNING_POP
+
+/// Where the event is, in pixels of the widget that gets it.
+inline QPointF positionOf(const QMouseEvent &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.localPos();
+#else
+    return event.position();
+#endif
+}
+
+/// Whether the event was made of a finger's touch.
+inline bool isFromFinger(const QMouseEvent &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.source() != Qt::MouseEventNotSynthesized;
+#else
+    return event.pointerType() == QPointingDevice::PointerType::Finger;
+#endif
+}
 
 } // namespace Tessark::UI

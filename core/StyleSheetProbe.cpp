@@ -106,4 +106,12 @@ StyleSheetLook styleSheetLook(const QWidget *widget, const QStyleOptionButton &o
     return {drawsBackground(widget, option), textColor(widget, option)};
 }
 
+void repolish(QWidget *widget)
+{
+    if (!widget->testAttribute(Qt::WA_StyleSheet))
+        return;
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+}
+
 } // namespace Tessark::UI

@@ -18,4 +18,8 @@ struct StyleSheetLook
 /// it knows no colour of a rule with a state (":checked { color: red }").
 StyleSheetLook styleSheetLook(const QWidget *widget, const QStyleOptionButton &option);
 
+/// Makes the style sheets in force, if any, look at the widget's dynamic properties again; they do
+/// so only when they polish.
+void repolish(QWidget *widget);
+
 } // namespace Tessark::UI

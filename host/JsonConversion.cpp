@@ -245,6 +245,21 @@ bool checkNumbersText(const QString &text, int count, OneForAll oneForAll, Conve
     return true;
 }
 
+bool checkKeys(const QJsonObject &object, const QStringList &known, const QString &required,
+               ConversionError &error)
+{
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+        if (!known.contains(it.key())) {
+            error.message = QStringLiteral("unknown key") + suggestion(it.key(), known);
+            error.path = childPointer(QString(), it.key());
+            return false;
+        }
+    }
+    if (!object.contains(required))
+        error.message = QStringLiteral("\"%1\" is missing").arg(required);
+    return object.contains(required);
+}
+
 std::optional<QSize> sizeFromJson(const QJsonValue &json, ConversionError &error)
 {
     const auto numbers = integersFromJson(json, 2, QStringLiteral("[width, height]"), error);

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QJsonValue>
 #include <QSize>
 #include <QString>
@@ -46,6 +47,10 @@ std::optional<QVector<int>> integersFromJson(const QJsonValue &json, int count, 
 /// The numbers of a text that separates them by single spaces; count of them, or one if oneForAll.
 enum class OneForAll { No, Yes };
 bool checkNumbersText(const QString &text, int count, OneForAll oneForAll, ConversionError &error);
+
+/// True when the object has no keys but the known ones, and the required one among them.
+bool checkKeys(const QJsonObject &object, const QStringList &known, const QString &required,
+               ConversionError &error);
 
 /// [width, height] in whole numbers.
 std::optional<QSize> sizeFromJson(const QJsonValue &json, ConversionError &error);

@@ -19,6 +19,16 @@ void PropertyList::setTitle(const QString &title)
     m_title = title;
 }
 
+QString PropertyList::folder() const
+{
+    return m_folder;
+}
+
+void PropertyList::setFolder(const QString &folder)
+{
+    m_folder = folder;
+}
+
 PropertyUI::Property &PropertyList::append(PropertyUI::Property property)
 {
     m_properties.push_back(std::make_unique<PropertyUI::Property>(std::move(property)));

@@ -13,7 +13,7 @@
 namespace Tessark::PropertyHost {
 
 /**
- * Owns the properties of one panel, in order, and the panel's title.
+ * Owns the properties of one panel, in order, the panel's title, and the folder of its pictures.
  *
  * It must outlive every panel made from properties().
  */
@@ -28,6 +28,11 @@ public:
     QString title() const;
     void setTitle(const QString &title);
 
+    /// Where relative paths of pictures start, in the list and in its values. The current folder if
+    /// empty, as at first.
+    QString folder() const;
+    void setFolder(const QString &folder);
+
     /// Appends a property and returns it, so that setters can be chained; the list owns it.
     PropertyUI::Property &append(PropertyUI::Property property);
 
@@ -36,6 +41,7 @@ public:
 
 private:
     QString m_title;
+    QString m_folder;
     std::vector<std::unique_ptr<PropertyUI::Property>> m_properties;
 };
 

@@ -1,10 +1,12 @@
 #include "host/PropertyListReader.h"
 
 #include "host/HintJson_p.h"
+#include "host/HostHints.h"
 #include "host/JsonInput_p.h"
 #include "host/NestingCheck_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
+#include "host/TextureJson_p.h"
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
@@ -48,10 +50,18 @@ const QStringList &propertyKeys()
     return s_keys;
 }
 
+/// All hint keys that a list may have.
+QStringList hintKeys()
+{
+    return vocabularyHints() + QStringList{kHostHintTextures};
+}
+
 /// Reads the rows of one document in order, and knows what was seen in the rows before.
 class Reader final
 {
 public:
+    explicit Reader(const QString &folder);
+
     PropertyListResult read(const QJsonDocument &document);
 
 private:
@@ -65,6 +75,9 @@ private:
                                     bool isStructural);
     bool hasEditor(Property &property, const QString &pointer);
     void readHints(Property &property, const QJsonObject &row, const QString &pointer);
+    void readHint(Property &property, const QString &key, const QJsonValue &json,
+                  const QString &pointer);
+    void readTextures(Property &property, const QJsonValue &json, const QString &pointer);
     void readRange(Property &property, const QJsonObject &row, const QString &pointer);
     QVariant readBound(const Property &property, const QJsonObject &row, const QString &pointer,
                        const QString &key);
@@ -82,6 +95,11 @@ private:
     NestingCheck m_nesting{m_problems};
     QSet<QString> m_names;
 };
+
+Reader::Reader(const QString &folder)
+{
+    m_list.setFolder(folder);
+}
 
 PropertyListResult Reader::read(const QJsonDocument &document)
 {
@@ -226,19 +244,52 @@ void Reader::readHints(Property &property, const QJsonObject &row, const QString
     const QJsonObject hints = json.toObject();
     for (auto it = hints.constBegin(); it != hints.constEnd(); ++it) {
         const QString hintPointer = childPointer(hintsPointer, it.key());
-        if (!vocabularyHints().contains(it.key())) {
-            m_problems.warning(
-                hintPointer,
-                QStringLiteral("unknown hint%1").arg(suggest(it.key(), vocabularyHints())));
-        }
-        ConversionError error;
-        const auto value = hintFromJson(it.key(), it.value(), error);
-        if (value)
-            property.setHint(it.key(), *value);
+        if (it.key() == kHostHintTextures)
+            readTextures(property, it.value(), hintPointer);
         else
-            addError(hintPointer, error);
+            readHint(property, it.key(), it.value(), hintPointer);
     }
     checkChoices(property, hintsPointer);
+}
+
+void Reader::readHint(Property &property, const QString &key, const QJsonValue &json,
+                      const QString &pointer)
+{
+    if (!vocabularyHints().contains(key)) {
+        m_problems.warning(pointer, QStringLiteral("unknown hint%1").arg(suggest(key, hintKeys())));
+    }
+    ConversionError error;
+    const auto value = hintFromJson(key, json, error);
+    if (value)
+        property.setHint(key, *value);
+    else
+        addError(pointer, error);
+}
+
+void Reader::readTextures(Property &property, const QJsonValue &json, const QString &pointer)
+{
+    if (!json.isArray()) {
+        m_problems.error(pointer, expectedMessage(QStringLiteral("an array"), json));
+        return;
+    }
+    QVariantList textures;
+    QSet<QString> names;
+    const QJsonArray entries = json.toArray();
+    for (int i = 0; i < entries.size(); ++i) {
+        ConversionError error;
+        const auto texture = textureFromHintEntry(entries.at(i), m_list.folder(), error);
+        if (texture && names.contains(texture->name)) {
+            error.message = QStringLiteral("the name %1 is taken by a texture before")
+                                .arg(quoted(texture->name));
+        }
+        if (!error.message.isEmpty()) {
+            addError(childPointer(pointer, i), error);
+            continue;
+        }
+        names.insert(texture->name);
+        textures.append(QVariant::fromValue(*texture));
+    }
+    property.setHint(kHostHintTextures, textures);
 }
 
 void Reader::checkChoices(const Property &property, const QString &pointer)
@@ -281,7 +332,7 @@ QVariant Reader::readBound(const Property &property, const QJsonObject &row, con
     if (json.isUndefined())
         return {};
     ConversionError error;
-    const auto bound = convertValue(property, json, error);
+    const auto bound = convertValue(property, json, m_list.folder(), error);
     if (!bound)
         addError(childPointer(pointer, key), error);
     return bound.value_or(QVariant());
@@ -309,7 +360,7 @@ void Reader::readDefault(Property &property, const QJsonObject &row, const QStri
     if (json.isUndefined())
         return;
     ConversionError error;
-    const auto value = convertValue(property, json, error);
+    const auto value = convertValue(property, json, m_list.folder(), error);
     const QString defaultPointer = childPointer(pointer, kKeyDefault);
     if (!value) {
         addError(defaultPointer, error);
@@ -346,12 +397,12 @@ QString Reader::suggest(const QString &text, const QStringList &candidates) cons
 
 } // namespace
 
-PropertyListResult readPropertyList(const QByteArray &json)
+PropertyListResult readPropertyList(const QByteArray &json, const QString &folder)
 {
     PropertyEditorPanel::InitialiseRegistry();
     PropertyListResult result;
     if (const auto document = parseJson(json, result.problems))
-        result = Reader().read(*document);
+        result = Reader(folder).read(*document);
     return result;
 }
 

@@ -4,6 +4,7 @@
 #include "host/PropertyList.h"
 
 #include <QByteArray>
+#include <QString>
 #include <QVector>
 
 namespace Tessark::PropertyHost {
@@ -24,11 +25,16 @@ struct PropertyListResult
  * values look is described at valueFromJson(). The file property-list.schema.json, installed with
  * the library, says the same in a form that text editors use to complete and check.
  *
+ * Relative paths of pictures start at folder, which is the current one if empty, and the list keeps
+ * it. The hint "textures" (kHostHintTextures) is an array; each entry is a path, or an object with
+ * "file" and, unless it is the path, "name".
+ *
  * All problems are listed, not only the first. A row whose type has no editor is left out with a
  * warning; so register editors of your own types in PropertyEditorRegistry before. A row with a bad
- * range, default or hint is read without it. A row that is no object, or has no usable type or
+ * range, default or hint is read without it, and without the textures that cannot be read. A row that is no object, or has no usable type or
  * name, is left out, and so is the second row of a name; structural rows stay in without their name.
  */
-TESSARK_PROPERTYHOST_EXPORT PropertyListResult readPropertyList(const QByteArray &json);
+TESSARK_PROPERTYHOST_EXPORT PropertyListResult readPropertyList(const QByteArray &json,
+                                                                const QString &folder = QString());
 
 } // namespace Tessark::PropertyHost

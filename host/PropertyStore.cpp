@@ -1,12 +1,14 @@
 #include "host/PropertyStore.h"
 
 #include "host/JsonInput_p.h"
+#include "host/PictureJson_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/PropertyList.h"
 #include "host/ValueJson.h"
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
+#include <QImage>
 #include <QMap>
 
 namespace Tessark::PropertyHost {
@@ -26,6 +28,19 @@ QMap<QString, Property *> valuedProperties(const PropertyList &list)
     return result;
 }
 
+/// What an "image" property keeps of a value. Its editor hands pixmaps back, which do not know the
+/// path that they came from, and nothing when it shows no picture.
+QVariant keptPicture(const Property &property, const QVariant &value, const QVariant &before)
+{
+    if (!value.isValid())
+        return QImage();
+    if (value.userType() != QMetaType::QPixmap)
+        return value;
+    if (isShownAs(before, value))
+        return before;
+    return isShownAs(property.defaultValue, value) ? property.defaultValue : value;
+}
+
 } // namespace
 
 PropertyStore::PropertyStore(QObject *parent)
@@ -39,9 +54,12 @@ PropertyStore::~PropertyStore() = default;
 
 void PropertyStore::setValue(Property *property, const QVariant &value, ChangeFlags flags)
 {
-    if (!property->name.isEmpty() && value.isValid())
-        m_values.insert(property->name, value);
-    Q_EMIT valueChanged(property, value, flags.testFlag(ContinuedChange));
+    const bool isPicture = typeTraits(property->type).kind == ValueKind::Picture;
+    const QVariant kept =
+        isPicture ? keptPicture(*property, value, m_values.value(property->name)) : value;
+    if (!property->name.isEmpty() && kept.isValid())
+        m_values.insert(property->name, kept);
+    Q_EMIT valueChanged(property, kept, flags.testFlag(ContinuedChange));
 }
 
 QVariant PropertyStore::value(Property *property)
@@ -77,7 +95,7 @@ QVector<Problem> PropertyStore::readValues(const QByteArray &json, const Propert
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
         const Property *const property = properties.value(it.key());
         if (property)
-            readValue(*property, it.value(), collector);
+            readValue(*property, it.value(), list.folder(), collector);
         else
             m_unknownValues.insert(it.key(), it.value());
     }
@@ -85,13 +103,13 @@ QVector<Problem> PropertyStore::readValues(const QByteArray &json, const Propert
 }
 
 void PropertyStore::readValue(const Property &property, const QJsonValue &json,
-                              ProblemCollector &problems)
+                              const QString &folder, ProblemCollector &problems)
 {
     const QString pointer = childPointer(QString(), property.name);
     ConversionError error;
-    const auto value = convertValue(property, json, error);
+    const auto value = convertValue(property, json, folder, error);
     if (!value) {
-        // What has no JSON form yet is not lost on writing; any other value replaces this.
+        // Not lost on writing unless there is a value to write.
         m_unknownValues.insert(property.name, json);
         problems.error(pointer + error.path, error.message);
         return;

@@ -36,7 +36,8 @@ public:
     ~PropertyStore() override;
 
     /// Keeps the value, if the property has a name and the value is valid, and emits
-    /// valueChanged() in every case.
+    /// valueChanged() in every case. The value of an "image" property may be a pixmap that shows
+    /// the picture before or the default: then that one is kept; an invalid value means no picture.
     void setValue(PropertyUI::Property *property, const QVariant &value,
                   ChangeFlags flags) override;
 
@@ -45,11 +46,12 @@ public:
 
     /// Sets all values to the defaults of the list and forgets everything else. A property without
     /// default gets its type's own (0, false, an empty text, black, the first choice, the identity,
-    /// 1 x 1 for sizes), brought into its range. Silent.
+    /// 1 x 1 for sizes, PNG, no picture), brought into its range. Silent.
     void reset(const PropertyList &list);
 
     /// Takes values from a JSON object of name to value; names that it lacks keep their values.
-    /// Values of names that the list does not have are kept for toJson() as they are. A value that
+    /// Relative paths start at the list's folder. Values of names that the list does not have are
+    /// kept for toJson() as they are. A value that
     /// does not convert is an error with the pointer "/name" and changes nothing. Silent.
     QVector<Problem> readValues(const QByteArray &json, const PropertyList &list);
 
@@ -66,7 +68,7 @@ Q_SIGNALS:
 
 private:
     void readValue(const PropertyUI::Property &property, const QJsonValue &json,
-                   ProblemCollector &problems);
+                   const QString &folder, ProblemCollector &problems);
 
     QHash<QString, QVariant> m_values;
     QJsonObject m_unknownValues; // of names that the list did not have

@@ -1,5 +1,6 @@
 #include "host/UndoDelegate.h"
 
+#include "host/ValueJson.h"
 #include "host/ValueKind_p.h"
 
 #include <property/Property.h>
@@ -59,7 +60,7 @@ public:
         if (next->m_owner != m_owner || next->m_property != m_property || next->m_run != m_run)
             return false;
         m_after = next->m_after;
-        setObsolete(m_after == m_before);
+        setObsolete(isSameValue(*m_property, m_after, m_before));
         return true;
     }
 
@@ -138,7 +139,7 @@ void UndoDelegate::restore(PropertyUI::Property *property, const QVariant &value
 void UndoDelegate::record(PropertyUI::Property *property, const QVariant &before,
                           const QVariant &after)
 {
-    if (m_stack && before != after)
+    if (m_stack && !isSameValue(*property, before, after))
         m_stack->push(new Command(this, property, before, after));
 }
 

@@ -1,13 +1,17 @@
 #include "host/ValueJson.h"
 
+#include "host/ImageFormatJson_p.h"
+#include "host/PictureJson_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
+#include "host/TextureJson_p.h"
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
 #include <property/Property.h>
 #include <property/ValueCodecs.h>
 
+#include <QImage>
 #include <QPoint>
 #include <QPointF>
 #include <QRect>
@@ -207,13 +211,6 @@ std::optional<QVariant> noValue(const Property &property, ConversionError &error
     return std::nullopt;
 }
 
-std::optional<QVariant> noJsonForm(const Property &property, ConversionError &error)
-{
-    error.message =
-        QStringLiteral("a value of type %1 has no JSON form yet").arg(quoted(property.type));
-    return std::nullopt;
-}
-
 /// The decimal number with the fewest digits that isSame() accepts in place of number.
 template <typename Predicate>
 double shortestNumber(double number, int maximumDigits, Predicate isSame)
@@ -320,14 +317,20 @@ bool isVector(ValueKind kind)
 bool keepsTextForm(ValueKind kind)
 {
     return isVector(kind) || kind == ValueKind::Color || kind == ValueKind::OpaqueColor
-           || kind == ValueKind::Matrix || kind == ValueKind::PointF;
+           || kind == ValueKind::Matrix || kind == ValueKind::PointF || kind == ValueKind::Texture;
+}
+
+/// A QVariant cannot compare the content of these, or knows only part of it.
+bool needsJsonToCompare(ValueKind kind)
+{
+    return kind == ValueKind::Matrix || kind == ValueKind::Picture || kind == ValueKind::ImageFormat
+           || kind == ValueKind::Texture;
 }
 
 QVariant defaultOfKind(const Property &property, ValueKind kind)
 {
     switch (kind) {
     case ValueKind::None:
-    case ValueKind::NoJsonForm:
     case ValueKind::Any:
         return {};
     case ValueKind::Boolean:
@@ -364,6 +367,12 @@ QVariant defaultOfKind(const Property &property, ValueKind kind)
         return QRectF();
     case ValueKind::Matrix:
         return QVariant::fromValue(Matrix());
+    case ValueKind::Picture:
+        return QImage();
+    case ValueKind::ImageFormat:
+        return QVariant::fromValue(defaultImageFormat());
+    case ValueKind::Texture:
+        return QVariant::fromValue(TextureChoice());
     }
     return {};
 }
@@ -384,10 +393,10 @@ double intoRange(const Property &property, int index, double number)
 } // namespace
 
 std::optional<QVariant> valueFromJson(const Property &property, const QJsonValue &json,
-                                      QString &error)
+                                      QString &error, const QString &folder)
 {
     ConversionError reason;
-    auto value = convertValue(property, json, reason);
+    auto value = convertValue(property, json, folder, reason);
     if (!value) {
         error = reason.path.isEmpty() ? reason.message
                                       : reason.path + QLatin1String(": ") + reason.message;
@@ -404,7 +413,6 @@ QJsonValue valueToJson(const Property &property, const QVariant &value)
         return value.toString();
     switch (kind) {
     case ValueKind::None:
-    case ValueKind::NoJsonForm:
         return QJsonValue::Undefined;
     case ValueKind::Boolean:
         return value.toBool();
@@ -426,6 +434,12 @@ QJsonValue valueToJson(const Property &property, const QVariant &value)
         return colorToJson(value, Alpha::Without);
     case ValueKind::Matrix:
         return matrixToJson(value);
+    case ValueKind::Picture:
+        return pictureToJson(value);
+    case ValueKind::ImageFormat:
+        return imageFormatToJson(value);
+    case ValueKind::Texture:
+        return textureToJson(value);
     case ValueKind::Point:
     case ValueKind::PointF:
     case ValueKind::Size:
@@ -441,13 +455,11 @@ QJsonValue valueToJson(const Property &property, const QVariant &value)
 }
 
 std::optional<QVariant> convertValue(const Property &property, const QJsonValue &json,
-                                     ConversionError &error)
+                                     const QString &folder, ConversionError &error)
 {
     switch (typeTraits(property.type).kind) {
     case ValueKind::None:
         return noValue(property, error);
-    case ValueKind::NoJsonForm:
-        return noJsonForm(property, error);
     case ValueKind::Any:
         return anyFromJson(json, error);
     case ValueKind::Boolean:
@@ -484,6 +496,12 @@ std::optional<QVariant> convertValue(const Property &property, const QJsonValue 
         return rectFFromJson(json, error);
     case ValueKind::Matrix:
         return matrixFromJson(json, error);
+    case ValueKind::Picture:
+        return pictureFromJson(json, folder, error);
+    case ValueKind::ImageFormat:
+        return imageFormatFromJson(json, error);
+    case ValueKind::Texture:
+        return textureFromJson(property, json, folder, error);
     }
     return std::nullopt;
 }
@@ -500,6 +518,14 @@ QVariant initialValue(const Property &property)
     if (kind == ValueKind::Number)
         return numbers.first();
     return isVector(kind) ? vectorVariant(numbers) : value;
+}
+
+bool isSameValue(const Property &property, const QVariant &left, const QVariant &right)
+{
+    if (!needsJsonToCompare(typeTraits(property.type).kind))
+        return left == right;
+    const QJsonValue json = valueToJson(property, left);
+    return json.isUndefined() ? left == right : json == valueToJson(property, right);
 }
 
 QVector<double> components(const QVariant &value)

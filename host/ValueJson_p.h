@@ -16,7 +16,7 @@ namespace Tessark::PropertyHost {
 
 /// valueFromJson() with the place of the error.
 std::optional<QVariant> convertValue(const PropertyUI::Property &property, const QJsonValue &json,
-                                     ConversionError &error);
+                                     const QString &folder, ConversionError &error);
 
 /// The value that a property without default starts with: its type's own, brought into its range.
 QVariant initialValue(const PropertyUI::Property &property);

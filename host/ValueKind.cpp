@@ -29,7 +29,7 @@ QMap<QString, TypeTraits> makeTraits()
         {kPropertyTypeEnumeration, value(ValueKind::Choice, RangeUse::None)},
         {kPropertyTypeColor, value(ValueKind::Color, RangeUse::None)},
         {kPropertyTypeColorRGB, value(ValueKind::OpaqueColor, RangeUse::None)},
-        {kPropertyTypeImage, value(ValueKind::NoJsonForm, RangeUse::None)},
+        {kPropertyTypeImage, value(ValueKind::Picture, RangeUse::None)},
         {kPropertyTypeString, value(ValueKind::Text, RangeUse::None)},
         {kPropertyTypeStaticText, value(ValueKind::Text, RangeUse::None)},
         {kPropertyTypeText, value(ValueKind::Text, RangeUse::None)},
@@ -49,9 +49,9 @@ QMap<QString, TypeTraits> makeTraits()
         {kPropertyTypeTab, structure},
         {kPropertyTypeAction, structure},
         {kPropertyTypeRenderSize, value(ValueKind::Size, RangeUse::None)},
-        {kPropertyTypeImageFormat, value(ValueKind::NoJsonForm, RangeUse::None)},
+        {kPropertyTypeImageFormat, value(ValueKind::ImageFormat, RangeUse::None)},
         {kPropertyTypeTransform2D, value(ValueKind::Matrix, RangeUse::None)},
-        {kPropertyTypeTexture, value(ValueKind::NoJsonForm, RangeUse::None)},
+        {kPropertyTypeTexture, value(ValueKind::Texture, RangeUse::None)},
     };
 }
 

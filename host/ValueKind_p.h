@@ -7,9 +7,8 @@ namespace Tessark::PropertyHost {
 
 /// How the value of a property type looks in JSON and in a variant.
 enum class ValueKind {
-    None,       // the type has no value
-    NoJsonForm, // it has one that JSON cannot hold yet
-    Any,        // a type of the host: whatever JSON holds
+    None, // the type has no value
+    Any,  // a type of the host: whatever JSON holds
     Boolean,
     Integer,
     Number,
@@ -27,6 +26,9 @@ enum class ValueKind {
     Rect,
     RectF,
     Matrix,
+    Picture,
+    ImageFormat,
+    Texture,
 };
 
 /// Whether "min", "max" and "hardMax" mean something for a property type.

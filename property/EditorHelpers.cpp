@@ -1,10 +1,14 @@
 #include "property/EditorHelpers_p.h"
 
+#include "core/DisclosureButton.h"
 #include "property/PropertyEditor.h"
 
+#include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QButtonGroup>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QSpinBox>
@@ -113,6 +117,14 @@ int toSaturatedInt(const QVariant &value)
     }
 }
 
+QSize toSaturatedSize(const QVariant &value)
+{
+    if (value.userType() != QMetaType::QSizeF)
+        return value.toSize();
+    const QSizeF size = value.toSizeF();
+    return {toSaturatedInt(size.width()), toSaturatedInt(size.height())};
+}
+
 double finite(double number)
 {
     if (std::isnan(number))
@@ -136,13 +148,41 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     return row;
 }
 
-void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
+void applyAlignmentHint(QLabel *label, const Property &property)
 {
-    slider->installEventFilter(editor);
+    const QVariant alignment = property.hint(kPropertyHintAlignment);
+    if (alignment.isValid())
+        label->setAlignment(Qt::Alignment(QFlag(alignment.toInt())));
+}
+
+void announceDrags(QAbstractSlider *slider, PropertyEditor *editor)
+{
     QObject::connect(slider, &QAbstractSlider::sliderPressed, editor,
                      &PropertyEditor::startInteractiveChange);
     QObject::connect(slider, &QAbstractSlider::sliderReleased, editor,
                      &PropertyEditor::endInteractiveChange);
+}
+
+void watchSlider(QAbstractSlider *slider, PropertyEditor *editor)
+{
+    slider->installEventFilter(editor);
+    announceDrags(slider, editor);
+}
+
+UI::DisclosureButton *makeRoundButton()
+{
+    auto *const button = new UI::DisclosureButton(nullptr, true);
+    button->setCheckable(true);
+    button->setChecked(false);
+    button->setProperty("group", QStringLiteral("round"));
+    return button;
+}
+
+void checkButton(QButtonGroup &group, int id)
+{
+    const QSignalBlocker blocker(&group);
+    if (QAbstractButton *button = group.button(id))
+        button->setChecked(true);
 }
 
 void setCompactSize(QAbstractSpinBox *spinBox)

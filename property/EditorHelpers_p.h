@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QSize>
 
 #include <functional>
 #include <initializer_list>
@@ -11,11 +12,17 @@
 
 class QAbstractSlider;
 class QAbstractSpinBox;
+class QButtonGroup;
 class QDoubleSpinBox;
+class QLabel;
 class QLineEdit;
 class QSpinBox;
 class QString;
 class QWidget;
+
+namespace Tessark::UI {
+class DisclosureButton;
+}
 
 namespace Tessark::PropertyUI {
 
@@ -72,6 +79,10 @@ int sliderPosition(double number);
 /// The variant as int. Numbers beyond int saturate and NaN gives 0; all else is QVariant::toInt().
 int toSaturatedInt(const QVariant &value);
 
+/// The variant as a size, its fractions rounded and saturated as above; what is no size gives an
+/// invalid one.
+QSize toSaturatedSize(const QVariant &value);
+
 /// The number as an entry field can take it: NaN gives 0, an infinity the largest finite number.
 double finite(double number);
 
@@ -81,8 +92,21 @@ int hundredthOf(int minimum, int maximum);
 /// A parentless row without margins holding the controls from left to right; it owns them.
 QWidget *makeRow(std::initializer_list<QWidget *> controls);
 
-/// Makes a drag of slider one interactive run of editor, and lets editor filter its events.
+/// Aligns the label as the "alignment" hint says (int, a set of Qt::Alignment bits), if there is one.
+void applyAlignmentHint(QLabel *label, const Property &property);
+
+/// Makes a drag of slider one interactive run of editor.
+void announceDrags(QAbstractSlider *slider, PropertyEditor *editor);
+
+/// The same, and lets editor filter the slider's events.
 void watchSlider(QAbstractSlider *slider, PropertyEditor *editor);
+
+/// A round button, unchecked and without parent, that unfolds part of an editor.
+UI::DisclosureButton *makeRoundButton();
+
+/// Checks the button of that id without a signal of the group, as a host's value does; an id that
+/// no button has changes nothing.
+void checkButton(QButtonGroup &group, int id);
 
 /// Fixes the entry field at the width that goes beside a slider, and at its own height.
 void setCompactSize(QAbstractSpinBox *spinBox);

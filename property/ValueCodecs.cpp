@@ -1,9 +1,10 @@
 #include "property/ValueCodecs.h"
 
+#include "property/ColorFractions_p.h"
+
 #include <QStringList>
 
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <initializer_list>
 
@@ -14,13 +15,9 @@ namespace {
 constexpr int kSignificantDigits = 6;
 constexpr int kMatrixSize = 3;
 
-// Known by name from the moment the library is loaded. "QMatrix3x3" is only an alias: Qt uses the
-// same name for its float matrix, so code tells the type by its C++ name.
-[[maybe_unused]] const bool s_valueTypesRegistered = [] {
+// Known by name from the moment the library is loaded.
+[[maybe_unused]] const int s_textureChoiceType =
     qRegisterMetaType<TextureChoice>("Tessark::PropertyUI::TextureChoice");
-    qRegisterMetaType<DoubleMatrix3x3>("QMatrix3x3");
-    return true;
-}();
 
 QString joined(std::initializer_list<double> numbers)
 {
@@ -60,17 +57,10 @@ std::array<float, count> components(const QString &text)
     return result;
 }
 
-/// A number outside 0..1 is left to QColor; it cannot convert a NaN, which counts as 0.
-float fractionIn(const QString &part)
-{
-    const float fraction = numberIn(part);
-    return std::isnan(fraction) ? 0.0F : fraction;
-}
-
 QColor colorOf(const QStringList &parts, float alpha)
 {
-    return QColor::fromRgbF(fractionIn(parts.at(0)), fractionIn(parts.at(1)),
-                            fractionIn(parts.at(2)), alpha);
+    return colorOfFractions(numberIn(parts.at(0)), numberIn(parts.at(1)), numberIn(parts.at(2)),
+                            alpha);
 }
 
 } // namespace
@@ -123,15 +113,15 @@ QColor QColor_fromString(const QString &text)
 {
     const QStringList parts = partsOf(text);
     if (parts.size() == 4)
-        return colorOf(parts, fractionIn(parts.at(3)));
+        return colorOf(parts, numberIn(parts.at(3)));
     if (parts.size() == 3)
         return colorOf(parts, 1.0F);
     if (parts.size() == 1) {
         bool isNumber = false;
         parts.first().toFloat(&isNumber);
-        const float grey = fractionIn(parts.first());
+        const float grey = numberIn(parts.first());
         if (isNumber) // its alpha is the same number, deliberately not opaque
-            return QColor::fromRgbF(grey, grey, grey, grey);
+            return colorOfFractions(grey, grey, grey, grey);
     }
     QColor color;
     color.setNamedColor(text);

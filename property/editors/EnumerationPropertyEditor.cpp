@@ -45,7 +45,8 @@ void EnumerationPropertyEditor::setValue(const QVariant &value)
             return; // a value that no choice has leaves the choice as it is
     }
     setQuietly(m_comboBox, &QComboBox::setCurrentIndex, index);
-    checkButton(index);
+    if (m_buttonGroup)
+        checkButton(*m_buttonGroup, index);
 }
 
 QVariant EnumerationPropertyEditor::value() const
@@ -90,16 +91,6 @@ QWidget *EnumerationPropertyEditor::makeRadioButtons()
     layout->addStretch();
     connect(m_buttonGroup, &QButtonGroup::idClicked, this, &PropertyEditor::valueChanged);
     return row;
-}
-
-/// Ignores an index outside the buttons.
-void EnumerationPropertyEditor::checkButton(int index)
-{
-    if (!m_buttonGroup)
-        return;
-    const QSignalBlocker blocker(m_buttonGroup);
-    if (QAbstractButton *button = m_buttonGroup->button(index))
-        button->setChecked(true);
 }
 
 int EnumerationPropertyEditor::currentIndex() const

@@ -37,7 +37,6 @@ public:
 private:
     QWidget *makeComboBox();
     QWidget *makeRadioButtons();
-    void checkButton(int index);
     int currentIndex() const;
 
     QComboBox *m_comboBox = nullptr;       // same object as m_widget; or

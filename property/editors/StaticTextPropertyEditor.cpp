@@ -1,5 +1,7 @@
 #include "property/editors/StaticTextPropertyEditor.h"
 
+#include "property/EditorHelpers_p.h"
+
 #include <QLabel>
 
 namespace Tessark::PropertyUI {
@@ -32,9 +34,7 @@ QWidget *StaticTextPropertyEditor::widget(PropertyEditorContext *)
     if (!m_widget) {
         m_label = new QLabel;
         m_widget = m_label;
-        const QVariant alignment = m_property->hint(kPropertyHintAlignment);
-        if (alignment.isValid())
-            m_label->setAlignment(Qt::Alignment(QFlag(alignment.toInt())));
+        applyAlignmentHint(m_label, *m_property);
     }
     return m_widget;
 }

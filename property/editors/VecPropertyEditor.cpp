@@ -130,10 +130,7 @@ DoubleSpinBox *VecPropertyEditor::makeSpinBox(const ComponentRange &range, bool 
 
 UI::DisclosureButton *VecPropertyEditor::makeCheck()
 {
-    auto *const check = new UI::DisclosureButton(nullptr, true);
-    check->setCheckable(true);
-    check->setChecked(false);
-    check->setProperty("group", QStringLiteral("round"));
+    auto *const check = makeRoundButton();
     connect(check, &UI::DisclosureButton::toggled, this, &VecPropertyEditor::setMultiple);
     return check;
 }

@@ -2,6 +2,7 @@
 
 #include "property/QtCompat_p.h"
 #include "support/FileDialogs.h"
+#include "support/FileDrag.h"
 #include "support/FileTree.h"
 
 #include <QAbstractItemView>
@@ -9,13 +10,11 @@
 #include <QCompleter>
 #include <QContextMenuEvent>
 #include <QDialog>
-#include <QDragEnterEvent>
 #include <QFileSystemModel>
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QPointer>
 #include <QScrollArea>
 #include <QShortcut>
@@ -104,30 +103,21 @@ struct DragAnswer
 };
 
 /// Drags mime over widget and lets go there; as a window system does, drops only what was accepted.
-DragAnswer drag(QWidget *widget, const QMimeData &mime,
-                Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction)
+DragAnswer drag(QWidget *widget, const QMimeData &mime, Qt::DropActions actions = kAllDropActions)
 {
     DragAnswer answer;
+    const DragOffer offer{mime, actions};
     const QPoint position = widget->rect().center();
-    QDragEnterEvent enter(position, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &enter);
-    answer.entered = enter.isAccepted();
-    answer.enterAction = enter.dropAction();
-
-    QDragMoveEvent move(position, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &move);
-    answer.moved = move.isAccepted();
-    answer.moveAction = move.dropAction();
+    answer.enterAction = sendDragEvent<QDragEnterEvent>(widget, position, offer);
+    answer.entered = answer.enterAction != Qt::IgnoreAction;
+    answer.moveAction = sendDragEvent<QDragMoveEvent>(widget, position, offer);
+    answer.moved = answer.moveAction != Qt::IgnoreAction;
     if (!answer.moved) {
-        QDragLeaveEvent leave;
-        QCoreApplication::sendEvent(widget, &leave);
+        sendDragLeave(widget);
         return answer;
     }
-
-    QDropEvent drop(position, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &drop);
-    answer.dropped = drop.isAccepted();
-    answer.dropAction = drop.dropAction();
+    answer.dropAction = sendDragEvent<QDropEvent>(widget, position, offer);
+    answer.dropped = answer.dropAction != Qt::IgnoreAction;
     return answer;
 }
 

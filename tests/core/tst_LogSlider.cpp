@@ -1,13 +1,13 @@
 #include "core/LogSlider.h"
 
+#include "support/RealSliders.h"
+
 #include <QAccessible>
 #include <QDialog>
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QShortcut>
 #include <QSignalSpy>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <QtTest>
@@ -24,86 +24,8 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-/// Where the style puts the handle, for sliders that open their style option to us.
-template <typename Slider>
-class Opened : public Slider
-{
-public:
-    using Slider::Slider;
-
-    QPoint handle() const
-    {
-        QStyleOptionSlider option;
-        this->initStyleOption(&option);
-        return this->style()
-            ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this)
-            .center();
-    }
-};
-
 using OpenedLogSlider = Opened<LogSlider>;
-
-/// Writes down every signal of a slider in the order in which a slot sees them.
-class SignalLog : public QStringList
-{
-public:
-    explicit SignalLog(LogSlider *slider)
-    {
-        QObject::connect(slider, &QSlider::rangeChanged, [this](int low, int high) {
-            append(QStringLiteral("range %1..%2").arg(low).arg(high));
-        });
-        QObject::connect(slider, &QSlider::valueChanged,
-                         [this](int value) { append(QStringLiteral("value %1").arg(value)); });
-        QObject::connect(slider, &LogSlider::realValueChanged,
-                         [this](double value) { append(QStringLiteral("real %1").arg(value)); });
-        QObject::connect(slider, &QSlider::sliderPressed,
-                         [this] { append(QStringLiteral("pressed")); });
-        QObject::connect(slider, &QSlider::sliderMoved,
-                         [this](int value) { append(QStringLiteral("moved %1").arg(value)); });
-        QObject::connect(slider, &QSlider::sliderReleased,
-                         [this] { append(QStringLiteral("released")); });
-    }
-
-    QString text() const { return join(QStringLiteral(", ")); }
-};
-
-void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &at, Qt::MouseButton button,
-               Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, at, widget->mapToGlobal(at), button, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
-}
-
-void press(QWidget *widget, const QPoint &at)
-{
-    sendMouse(widget, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
-}
-
-void move(QWidget *widget, const QPoint &at)
-{
-    sendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton);
-}
-
-void release(QWidget *widget, const QPoint &at)
-{
-    sendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
-}
-
-/// Whether the widget took one notch of the wheel.
-bool rollWheel(QWidget *widget)
-{
-    const QPoint at = widget->rect().center();
-    QWheelEvent event(at, widget->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    event.ignore();
-    QCoreApplication::sendEvent(widget, &event);
-    return event.isAccepted();
-}
-
-QAccessibleValueInterface *valueInterfaceOf(QWidget *widget)
-{
-    return QAccessible::queryAccessibleInterface(widget)->valueInterface();
-}
+using SignalLog = RealSliderLog<LogSlider>;
 
 } // namespace
 
@@ -174,6 +96,7 @@ private Q_SLOTS:
     void dragRightToLeft();
     void dragVertically();
     void escapeRestoresTheExactValue();
+    void escapeAfterADoubleClick();
     void escapeWithoutTracking();
     void escapeSilentWhereNothingMoved();
     void pointerIsIgnoredAfterEscape();
@@ -985,6 +908,22 @@ void tst_LogSlider::escapeRestoresTheExactValue()
     QCOMPARE(m_slider->value(), 699);
     QVERIFY(!m_slider->isSliderDown());
     QCOMPARE(log.text(), QStringLiteral("moved 699, real 5, value 699, released"));
+}
+
+void tst_LogSlider::escapeAfterADoubleClick()
+{
+    m_slider->setRealValue(5);
+    const QPoint start = m_slider->handle();
+    press(m_slider.get(), start);
+    release(m_slider.get(), start);
+    sendMouse(m_slider.get(), QEvent::MouseButtonDblClick, start, Qt::LeftButton, Qt::LeftButton);
+    move(m_slider.get(), QPoint(1000, start.y()));
+    QCOMPARE(m_slider->realValue(), 10.0);
+
+    QTest::keyClick(m_slider.get(), Qt::Key_Escape);
+
+    QVERIFY(m_slider->realValue() == 5.0);
+    QVERIFY(!m_slider->isSliderDown());
 }
 
 void tst_LogSlider::escapeWithoutTracking()

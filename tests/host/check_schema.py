@@ -5,7 +5,8 @@ usage: check_schema.py SCHEMA SAMPLES
 
 The samples under "valid" and "beyond the schema" must be accepted, those under
 "wrong" refused. tst_PropertyListSchema reads the same samples with the reader,
-which must accept the first and refuse the other two.
+which must accept the first and refuse the other two. Of pictures, "dot.png" is
+there and "text.png" is none.
 """
 
 import json

@@ -183,7 +183,9 @@ void addRowsOnCompositeValues()
     addProblemRow("default of an action", R"({"type": "action", "default": 1})",
                   R"(0/default: a property of type "action" has no value)");
     addProblemRow("default of a texture", R"({"name": "a", "type": "texture", "default": "wood"})",
-                  R"(0/default: a value of type "texture" has no JSON form yet)");
+                  R"(0/default: there is no file "wood")");
+    addProblemRow("default of an image", R"({"name": "a", "type": "image", "default": true})",
+                  "0/default: expected a path or null, found a boolean");
     addProblemRow("default null of an own type",
                   R"({"name": "a", "type": "host/own", "default": null})",
                   "0/default: expected a value, found null");

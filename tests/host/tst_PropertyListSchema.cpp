@@ -1,6 +1,9 @@
+#include <host/HostHints.h>
 #include <host/PropertyListReader.h>
 
 #include <property/PropertyVocabulary.h>
+
+#include <support/PictureFolder.h>
 
 #include <QFile>
 #include <QJsonArray>
@@ -71,6 +74,7 @@ private:
 
     QJsonObject m_schema;
     QJsonObject m_samples;
+    PictureFolder m_pictures;
 };
 
 void tst_PropertyListSchema::initTestCase()
@@ -79,6 +83,8 @@ void tst_PropertyListSchema::initTestCase()
     m_samples = readObject(QStringLiteral(TESSARK_SAMPLES_FILE));
     QVERIFY(!m_schema.isEmpty());
     QVERIFY(!m_samples.isEmpty());
+    m_pictures.addPicture(QStringLiteral("dot.png"), Qt::red);
+    m_pictures.addFile(QStringLiteral("text.png"), "no picture");
 }
 
 void tst_PropertyListSchema::readerJudgesSamples_data()
@@ -101,7 +107,7 @@ void tst_PropertyListSchema::readerJudgesSamples()
     QFETCH(QByteArray, json);
     QFETCH(bool, isGood);
 
-    const auto result = readPropertyList(json);
+    const auto result = readPropertyList(json, m_pictures.path());
 
     const QString errors = errorsOf(result.problems);
     QVERIFY2(errors.isEmpty() == isGood, qPrintable(errors));
@@ -172,6 +178,7 @@ void tst_PropertyListSchema::schemaNamesEveryHint()
         kPropertyHintXfrmUniformScale,
         kPropertyHintXfrmCollapsibleScale,
         kPropertyHintUseNativeDialogs,
+        kHostHintTextures,
     };
     const QJsonObject named = definition("hints").value(QLatin1String("properties")).toObject();
 

@@ -3,6 +3,7 @@
 #include <property/Property.h>
 #include <property/PropertyVocabulary.h>
 #include <property/ValueCodecs.h>
+#include <property/editors/ImageFormatEditor.h>
 
 #include <QColor>
 #include <QJsonArray>
@@ -43,6 +44,11 @@ Property makeProperty(const QString &type)
     return Property(QStringLiteral("name"), QStringLiteral("Label"), type);
 }
 
+QVariant imageFormat(const char *format, int rate)
+{
+    return QVariant::fromValue(ImageFormatDesc{QString::fromLatin1(format), rate});
+}
+
 /// A number of any size, whole or not.
 double anyNumber(QRandomGenerator &random)
 {
@@ -73,6 +79,13 @@ QVariant anyMatrix(QRandomGenerator &random)
     return QVariant::fromValue(Matrix(numbers));
 }
 
+QVariant anyImageFormat(QRandomGenerator &random)
+{
+    const QString formats[] = {QStringLiteral("png"), QStringLiteral("jpeg"),
+                               QStringLiteral("tiff"), QStringLiteral("bmp")};
+    return QVariant::fromValue(ImageFormatDesc{formats[random.bounded(4)], random.bounded(101)});
+}
+
 QVariant anyText(QRandomGenerator &random)
 {
     QString text;
@@ -93,6 +106,7 @@ private Q_SLOTS:
     void valuesAreRead_data();
     void valuesAreRead();
     void matrixIsReadRowByRow();
+    void imageFormatIsRead();
     void wrongValuesAreTold_data();
     void wrongValuesAreTold();
 
@@ -186,6 +200,22 @@ void tst_ValueJson::matrixIsReadRowByRow()
     QVERIFY(fromArray->value<Matrix>() == fromText->value<Matrix>());
 }
 
+void tst_ValueJson::imageFormatIsRead()
+{
+    const Property property = makeProperty(kPropertyTypeImageFormat);
+    QString error;
+
+    const auto full =
+        valueFromJson(property, parse(R"({"format": "jpeg", "compressionRate": 80})"), error);
+    const auto brief = valueFromJson(property, parse(R"({"format": "tiff"})"), error);
+
+    QVERIFY(full && brief);
+    QCOMPARE(full->value<ImageFormatDesc>().format, QStringLiteral("jpeg"));
+    QCOMPARE(full->value<ImageFormatDesc>().compressionRate, 80);
+    QCOMPARE(brief->value<ImageFormatDesc>().format, QStringLiteral("tiff"));
+    QCOMPARE(brief->value<ImageFormatDesc>().compressionRate, 0);
+}
+
 void tst_ValueJson::wrongValuesAreTold_data()
 {
     QTest::addColumn<QString>("type");
@@ -229,8 +259,22 @@ void tst_ValueJson::wrongValuesAreTold_data()
         R"(expected 9 numbers with single spaces between, found "1")");
     row(kPropertyTypeNone, "1", R"(a property of type "void" has no value)");
     row(kPropertyTypeTab, "1", R"(a property of type "tab" has no value)");
-    row(kPropertyTypeImage, R"("x.png")", R"(a value of type "image" has no JSON form yet)");
-    row(kPropertyTypeImageFormat, "{}", R"(a value of type "image_format" has no JSON form yet)");
+    row(kPropertyTypeImageFormat, R"("png")",
+        R"(expected an object with "format", found a string)");
+    row(kPropertyTypeImageFormat, "{}", R"("format" is missing)");
+    row(kPropertyTypeImageFormat, R"({"format": null})", "/format: expected a string, found null");
+    row(kPropertyTypeImageFormat, R"({"format": "jpg"})",
+        R"(/format: "jpg" is not one of png, jpeg, tiff, bmp (did you mean "jpeg"?))");
+    row(kPropertyTypeImageFormat, R"({"format": "PNG"})",
+        R"(/format: "PNG" is not one of png, jpeg, tiff, bmp)");
+    row(kPropertyTypeImageFormat, R"({"format": "png", "compressionRate": 1.5})",
+        "/compressionRate: expected a whole number, found 1.5");
+    row(kPropertyTypeImageFormat, R"({"format": "png", "compressionRate": 101})",
+        "/compressionRate: a compression rate must lie between 0 and 100");
+    row(kPropertyTypeImageFormat, R"({"format": "png", "compressionRate": -1})",
+        "/compressionRate: a compression rate must lie between 0 and 100");
+    row(kPropertyTypeImageFormat, R"({"format": "png", "compresionRate": 5})",
+        R"(/compresionRate: unknown key (did you mean "compressionRate"?))");
     row(QStringLiteral("host/own"), "null", "expected a value, found null");
 }
 
@@ -288,6 +332,7 @@ void tst_ValueJson::everyValueSurvives_data()
         return QVariant(QRectF(anyNumber(r), anyNumber(r), anyNumber(r), anyNumber(r)));
     });
     row(kPropertyTypeTransform2D, anyMatrix);
+    row(kPropertyTypeImageFormat, anyImageFormat);
     row(QStringLiteral("host/own"), [](QRandomGenerator &r) {
         return QVariant(QVariantMap{{QStringLiteral("k"), QVariantList{anyNumber(r), anyText(r)}}});
     });
@@ -311,8 +356,10 @@ void tst_ValueJson::everyValueSurvives()
         // A QVariant compares matrices on Qt 6 only.
         if (type == kPropertyTypeTransform2D)
             QVERIFY(read->value<Matrix>() == value.value<Matrix>());
-        else
+        else if (type != kPropertyTypeImageFormat)
             QCOMPARE(*read, value);
+        QVERIFY(isSameValue(property, *read, value));
+        QCOMPARE(valueToJson(property, *read), json);
     }
 }
 
@@ -331,6 +378,9 @@ void tst_ValueJson::numbersStayShort_data()
     row(kPropertyTypeColor, QColor::fromHsv(0, 255, 255), "[1,0,0,1]");
     row(kPropertyTypeFloat, 0.1, "0.1");
     row(kPropertyTypeSize, QSize(640, 480), "[640,480]");
+    row(kPropertyTypeImageFormat, imageFormat("jpeg", 80),
+        R"({"compressionRate":80,"format":"jpeg"})");
+    row(kPropertyTypeImageFormat, imageFormat("bmp", 0), R"({"format":"bmp"})");
 }
 
 void tst_ValueJson::numbersStayShort()
@@ -364,6 +414,11 @@ void tst_ValueJson::valuesWithoutJsonForm_data()
     QTest::newRow("invalid colour") << kPropertyTypeColor << QVariant(QColor());
     QTest::newRow("no value") << kPropertyTypeSeparator << QVariant(1);
     QTest::newRow("texture") << kPropertyTypeTexture << QVariant(1);
+    QTest::newRow("image format without name") << kPropertyTypeImageFormat << imageFormat("", 80);
+    QTest::newRow("unknown image format") << kPropertyTypeImageFormat << imageFormat("JPEG", 80);
+    QTest::newRow("rate out of range") << kPropertyTypeImageFormat << imageFormat("jpeg", 101);
+    QTest::newRow("other than an image format")
+        << kPropertyTypeImageFormat << QVariant(QStringLiteral("jpeg"));
     QTest::newRow("own type that JSON cannot hold")
         << QStringLiteral("host/own") << QVariant(QSize(1, 2));
 }

@@ -21,7 +21,7 @@ struct LibraryEditor
     const char *className;
 };
 
-/// The types that have their editor in the registry, with the class each is to have.
+/// All types that have an editor, with the class each is to have, and the registry filled.
 inline QVector<LibraryEditor> libraryEditors()
 {
     using namespace Tessark::PropertyUI;
@@ -54,10 +54,5 @@ inline QVector<LibraryEditor> libraryEditors()
         {kPropertyTypeTexture, "Tessark::PropertyUI::TexturePropertyEditor"},
     };
     PropertyEditorPanel::InitialiseRegistry();
-    QVector<LibraryEditor> registered;
-    for (const LibraryEditor &editor : all) {
-        if (factoryOf(editor.type))
-            registered.append(editor);
-    }
-    return registered;
+    return all;
 }

@@ -1,19 +1,25 @@
 // A Qt plugin that plays the user of a program under test, in its process and with real events. Qt
 // loads it when QT_QPA_GENERIC_PLUGINS names it; the program knows nothing of it.
 
+#include <support/FileDrag.h>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QGenericPlugin>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 namespace {
 
 /// Plays the steps of the variable TESSARK_DRIVER_STEPS, one a line, once a window is there:
 /// "line TEXT" and "text TEXT" type into the first field of that kind, "press BUTTON" clicks the
-/// button with that text, "key KEYS" presses a key, "close" closes the window.
+/// button with that text, "item TEXT" clicks the first entry of a list with that text, "drop PATH" drops
+/// a file on the first list, "key KEYS" presses a key, "close" closes the window.
 class Driver : public QObject
 {
 public:
@@ -54,6 +60,10 @@ private:
             type(visibleField<QPlainTextEdit>(window), rest);
         else if (verb == QLatin1String("press"))
             press(window, rest);
+        else if (verb == QLatin1String("item"))
+            clickItem(visibleField<QListWidget>(window), rest);
+        else if (verb == QLatin1String("drop"))
+            drop(visibleField<QListWidget>(window), rest);
         else if (verb == QLatin1String("key"))
             pressKey(window, QKeySequence(rest));
         else if (verb == QLatin1String("close"))
@@ -63,7 +73,7 @@ private:
     }
 
     template <typename Field>
-    static QWidget *visibleField(QWidget *window)
+    static Field *visibleField(QWidget *window)
     {
         const auto fields = window->findChildren<Field *>();
         for (Field *field : fields) {
@@ -93,6 +103,25 @@ private:
             }
         }
         qFatal("no such button");
+    }
+
+    static void clickItem(QListWidget *list, const QString &text)
+    {
+        const auto items = list->findItems(text, Qt::MatchExactly);
+        if (items.isEmpty())
+            qFatal("no such item");
+        list->scrollToItem(items.constFirst());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(items.constFirst()).center());
+    }
+
+    static void drop(QListWidget *list, const QString &path)
+    {
+        QMimeData mime;
+        mime.setUrls({QUrl::fromLocalFile(path)});
+        const QPoint middle = list->viewport()->rect().center();
+        sendDragEvent<QDragEnterEvent>(list->viewport(), middle, {mime});
+        sendDragEvent<QDropEvent>(list->viewport(), middle, {mime});
     }
 
     static void pressKey(QWidget *window, const QKeySequence &keys)

@@ -1,6 +1,9 @@
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
 #include <property/Property.h>
+#include <property/PropertyVocabulary.h>
+#include <property/TextureChoice.h>
+#include <property/editors/ImageFormatEditor.h>
 #include <tools/property-panel/LivePrinter.h>
 
 #include <QJsonDocument>
@@ -66,6 +69,8 @@ private Q_SLOTS:
     void continuedChangesAreMarked();
     void unchangedValueIsNotPrinted();
     void actionIsPrintedEachTimeAsNull();
+    void absentValueIsNotPrinted();
+    void picturesAndTexturesArePrintedAsText();
     void lineBreaksAreEscaped();
     void foldingAndTurningPagesAreNoChanges_data();
     void foldingAndTurningPagesAreNoChanges();
@@ -149,6 +154,45 @@ void tst_LivePrinter::actionIsPrintedEachTimeAsNull()
 
     QCOMPARE(output.text(), QByteArray("{\"continued\":false,\"name\":\"go\",\"value\":null}\n"
                                        "{\"continued\":false,\"name\":\"go\",\"value\":null}\n"));
+}
+
+void tst_LivePrinter::absentValueIsNotPrinted()
+{
+    // As the texture editor sends it while the user has picked nothing.
+    Property texture(QStringLiteral("t"), QString(), kPropertyTypeTexture);
+    PropertyStore store;
+    const LivePrinter printer({}, &store);
+    Capture capture;
+
+    store.setValue(&texture, QVariant(), IPropertyEditorDelegate::NewChange);
+
+    QCOMPARE(capture.text(), QByteArray());
+}
+
+void tst_LivePrinter::picturesAndTexturesArePrintedAsText()
+{
+    Property texture(QStringLiteral("t"), QString(), kPropertyTypeTexture);
+    Property image(QStringLiteral("i"), QString(), kPropertyTypeImage);
+    Property format(QStringLiteral("f"), QString(), kPropertyTypeImageFormat);
+    PropertyStore store;
+    const LivePrinter printer({}, &store);
+    Capture capture;
+
+    store.setValue(&texture,
+                   QVariant::fromValue(TextureChoice{QStringLiteral("Wood"), QImage(), QIcon()}),
+                   IPropertyEditorDelegate::NewChange);
+    store.setValue(&image, QVariant(), IPropertyEditorDelegate::NewChange);
+    store.setValue(&format, QVariant::fromValue(ImageFormatDesc{QStringLiteral("jpeg"), 7}),
+                   IPropertyEditorDelegate::ContinuedChange);
+
+    QCOMPARE(
+        capture.text(),
+        QByteArray(R"({"continued":false,"name":"t","value":"Wood"})"
+                   "\n"
+                   R"({"continued":false,"name":"i","value":""})"
+                   "\n"
+                   R"({"continued":true,"name":"f","value":{"compressionRate":7,"format":"jpeg"}})"
+                   "\n"));
 }
 
 void tst_LivePrinter::lineBreaksAreEscaped()

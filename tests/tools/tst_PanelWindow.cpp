@@ -1,7 +1,13 @@
+#include <host/HostHints.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <host/ValueJson.h>
 #include <property/PropertyUI.h>
+#include <property/TextureChoice.h>
+#include <property/editors/ImagePropertyEditor.h>
 #include <tools/property-panel/PanelWindow.h>
+
+#include <support/FileDrag.h>
 
 #include <QAction>
 #include <QApplication>
@@ -12,7 +18,9 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -20,6 +28,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
+#include <QUrl>
 
 #include <memory>
 
@@ -27,6 +36,7 @@ using namespace Tessark::PropertyPanel;
 using namespace Tessark::PropertyUI;
 using Tessark::PropertyHost::PropertyList;
 using Tessark::PropertyHost::PropertyStore;
+using Tessark::PropertyHost::valueFromJson;
 
 class tst_PanelWindow : public QObject
 {
@@ -60,6 +70,12 @@ private Q_SLOTS:
     void secondCancelDoesNotAskTwice();
     void savingFromTheQuestion();
     void returnInAFieldDoesNotSave();
+    void pickedTextureIsAStep();
+    void resetAllShowsTheDefaultTexture();
+    void resetAllToNoTexture();
+    void pictureGoesBackToItsDefault();
+    void droppedPicturesAreNoChange();
+    void unreadableDropsAreShown();
     void groupOnATabPageFolds();
     void modifiedMarkFollowsTheValues();
     void wholePanelFitsTheSizeHint();
@@ -67,6 +83,7 @@ private Q_SLOTS:
 
 private:
     void show();
+    QListWidget *addTextures(const char *initial);
     QLineEdit *title() const { return m_window->findChildren<QLineEdit *>().constFirst(); }
     QPlainTextEdit *notes() const { return m_window->findChild<QPlainTextEdit *>(); }
     QCheckBox *loop() const;
@@ -90,6 +107,21 @@ void click(QAbstractButton *button)
 {
     // A check box reacts at its left only.
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+}
+
+void clickRow(QListWidget *list, int row)
+{
+    list->scrollToItem(list->item(row));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualItemRect(list->item(row)).center());
+}
+
+void drop(QListWidget *list, const QString &path)
+{
+    QMimeData mime;
+    mime.setUrls({QUrl::fromLocalFile(path)});
+    sendDragEvent<QDragEnterEvent>(list->viewport(), QPoint(9, 9), {mime});
+    sendDragEvent<QDropEvent>(list->viewport(), QPoint(9, 9), {mime});
 }
 
 void typeOver(QWidget *field, const char *text)
@@ -486,6 +518,130 @@ void tst_PanelWindow::returnInAFieldDoesNotSave()
 
     QVERIFY(m_finished.isEmpty());
     QCOMPARE(stored(0), QVariant(QStringLiteral("typed")));
+}
+
+/// Appends a texture row with the textures "Red" and "Blue", and shows the window.
+QListWidget *tst_PanelWindow::addTextures(const char *initial)
+{
+    QVariantList textures;
+    for (const char *name : {"Red", "Blue"}) {
+        QImage image(4, 4, QImage::Format_RGB32);
+        image.fill(QColor(QLatin1String(name)));
+        textures.append(QVariant::fromValue(TextureChoice{QLatin1String(name), image, QIcon()}));
+    }
+    m_list->append({QStringLiteral("floor"), QStringLiteral("Floor"), kPropertyTypeTexture})
+        .setHint(Tessark::PropertyHost::kHostHintTextures, textures)
+        .setDefaultValue(
+            QVariant::fromValue(TextureChoice{QLatin1String(initial), QImage(), QIcon()}));
+    m_list->append({QStringLiteral("format"), QStringLiteral("Format"), kPropertyTypeImageFormat});
+    m_list->append({QStringLiteral("image"), QStringLiteral("Image"), kPropertyTypeImage});
+    m_store->reset(*m_list);
+    m_list->setFolder(m_folder->path());
+    show();
+    return m_window->findChild<QListWidget *>();
+}
+
+void tst_PanelWindow::pickedTextureIsAStep()
+{
+    QListWidget *const list = addTextures("Red");
+    QVERIFY(!m_window->hasUnsavedChanges());
+    QCOMPARE(list->currentRow(), 0);
+
+    clickRow(list, 1);
+    QVERIFY(m_window->hasUnsavedChanges());
+    m_window->undo();
+
+    QCOMPARE(list->currentRow(), 0);
+    QVERIFY(!m_window->hasUnsavedChanges());
+    m_window->redo();
+    m_window->save();
+    QCOMPARE(saved().value(QStringLiteral("floor")), QJsonValue(QStringLiteral("Blue")));
+}
+
+void tst_PanelWindow::resetAllShowsTheDefaultTexture()
+{
+    QListWidget *const list = addTextures("Red");
+    m_window->resetAll();
+    QVERIFY(!m_window->hasUnsavedChanges());
+
+    clickRow(list, 1);
+    m_window->resetAll();
+
+    QCOMPARE(list->currentRow(), 0);
+    m_window->save();
+    QCOMPARE(saved().value(QStringLiteral("floor")), QJsonValue(QStringLiteral("Red")));
+}
+
+void tst_PanelWindow::resetAllToNoTexture()
+{
+    QListWidget *const list = addTextures("");
+    QCOMPARE(list->currentRow(), -1);
+    clickRow(list, 1);
+
+    m_window->resetAll();
+
+    QVERIFY(list->selectedItems().isEmpty());
+    m_window->save();
+    QCOMPARE(saved().value(QStringLiteral("floor")), QJsonValue(QString()));
+}
+
+void tst_PanelWindow::pictureGoesBackToItsDefault()
+{
+    const auto write = [this](const char *name, Qt::GlobalColor color) {
+        QImage image(4, 4, QImage::Format_RGB32);
+        image.fill(color);
+        return image.save(m_folder->filePath(QLatin1String(name)));
+    };
+    QVERIFY(write("red.png", Qt::red) && write("blue.png", Qt::blue));
+    const Property image(QStringLiteral("image"), QStringLiteral("Image"), kPropertyTypeImage);
+    m_list->setFolder(m_folder->path());
+    QString error;
+    m_list->append(image).setDefaultValue(
+        *valueFromJson(image, QStringLiteral("red.png"), error, m_folder->path()));
+    m_store->reset(*m_list);
+    QVERIFY(m_store->readValues(R"({"image": "blue.png"})", *m_list).isEmpty());
+    show();
+    QCOMPARE(m_store->toJson(*m_list).value(QStringLiteral("image")),
+             QJsonValue(QStringLiteral("blue.png")));
+
+    m_window->findChild<ImagePropertyEditor *>()->revertToDefaultValue();
+    QCOMPARE(m_store->toJson(*m_list).value(QStringLiteral("image")),
+             QJsonValue(QStringLiteral("red.png")));
+
+    m_window->undo();
+    QCOMPARE(m_store->toJson(*m_list).value(QStringLiteral("image")),
+             QJsonValue(QStringLiteral("blue.png")));
+    QVERIFY(!m_window->hasUnsavedChanges());
+}
+
+void tst_PanelWindow::droppedPicturesAreNoChange()
+{
+    QListWidget *const list = addTextures("Red");
+    QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(m_folder->filePath(QStringLiteral("a.png"))));
+
+    drop(list, m_folder->filePath(QStringLiteral("a.png")));
+
+    QCOMPARE(list->count(), 3);
+    QCOMPARE(list->item(2)->text(), QStringLiteral("a.png"));
+    QVERIFY(!m_window->hasUnsavedChanges());
+    clickRow(list, 2);
+    m_window->save();
+    QCOMPARE(saved().value(QStringLiteral("floor")), QJsonValue(QStringLiteral("a.png")));
+}
+
+void tst_PanelWindow::unreadableDropsAreShown()
+{
+    QListWidget *const list = addTextures("Red");
+    const auto *const banner = m_window->findChild<QLabel *>(QStringLiteral("errorBanner"));
+    QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(m_folder->filePath(QStringLiteral("a.png"))));
+
+    drop(list, m_folder->path());
+    QVERIFY(banner->isVisible());
+    QCOMPARE(banner->text(), QStringLiteral("\"%1\" is not a file").arg(m_folder->path()));
+    QCOMPARE(list->count(), 2);
+
+    drop(list, m_folder->filePath(QStringLiteral("a.png")));
+    QVERIFY(!banner->isVisible());
 }
 
 void tst_PanelWindow::groupOnATabPageFolds()

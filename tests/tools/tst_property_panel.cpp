@@ -1,5 +1,8 @@
 // Runs the program itself, as a script or a user would.
 
+#include <QBuffer>
+#include <QColor>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -26,6 +29,29 @@ const QByteArray kList = R"({
     ]
 })";
 
+const QByteArray kPictureList = R"({
+    "version": 1,
+    "properties": [
+        {"name": "poster", "type": "image", "default": "red.png"},
+        {"name": "format", "type": "image_format", "default": {"format": "png"}},
+        {"name": "floor", "type": "texture", "default": "Red", "hints": {
+            "textures": [{"name": "Red", "file": "red.png"}, "blue.png"]}},
+        {"name": "size", "type": "ivec2/size", "default": [8, 6]},
+        {"name": "frame", "type": "render_size", "default": [8, 6]},
+        {"name": "turn", "type": "transform2D"},
+        {"name": "tint", "type": "vec4/color"}
+    ]
+})";
+
+QByteArray picture(const QColor &color)
+{
+    QImage image(8, 6, QImage::Format_RGB32);
+    image.fill(color);
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
 struct Result
 {
     int status = -1; // stays when the program crashed or hung
@@ -40,6 +66,17 @@ struct Result
         return lines;
     }
 };
+
+/// The lines of the standard error stream that are the program's own, not the platform's.
+QByteArray problemsOf(const QByteArray &error)
+{
+    QByteArray problems;
+    for (const QByteArray &line : error.split('\n')) {
+        if (line.contains("error: "))
+            problems += line + '\n';
+    }
+    return problems;
+}
 
 /// The words of a command line without quoting.
 QStringList words(const char *line)
@@ -86,6 +123,14 @@ private Q_SLOTS:
     void saveWritesTheDefaults();
     void saveWritesTypedTextWithoutReturn();
     void saveKeepsValuesOfUnknownNames();
+    void picturesSurviveUnchanged_data();
+    void picturesSurviveUnchanged();
+    void picturesStartAtTheFolderOfTheList();
+    void picturesOfStandardInputStartAtTheCurrentFolder();
+    void checkTellsOfPictures();
+    void droppedPictureCanBeSaved();
+    void droppedTextIsTold();
+    void liveLinesOfPictures();
     void saveWithTheKeyboard();
     void saveReplacesTheValuesFileItStartedFrom();
     void saveToStandardOutput();
@@ -126,6 +171,9 @@ void tst_property_panel::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
     write("list.json", kList);
+    write("pictures.json", kPictureList);
+    write("red.png", picture(Qt::red));
+    write("blue.png", picture(Qt::blue));
 }
 
 void tst_property_panel::write(const char *name, const QByteArray &content) const
@@ -506,6 +554,126 @@ void tst_property_panel::saveKeepsValuesOfUnknownNames()
     QCOMPARE(saved.value(QStringLiteral("zoom")), QJsonValue(1.25));
     QCOMPARE(saved.value(QStringLiteral("nested")), QJsonValue(nested));
     QCOMPARE(saved.value(QStringLiteral("title")), QJsonValue(QStringLiteral("From file")));
+}
+
+void tst_property_panel::picturesSurviveUnchanged_data()
+{
+    QTest::addColumn<QByteArray>("values");
+
+    QTest::newRow("others than the defaults") << QByteArray(R"({
+        "floor": "blue.png", "format": {"compressionRate": 33, "format": "jpeg"},
+        "frame": [1920, 1080], "poster": "./blue.png", "size": [640, 480],
+        "turn": [0.433013, 0.125, 0, -0.25, 0.216506, 0, 0.415192, 0.273446, 1],
+        "tint": [0.12345, 0.5, 1, 0.25]})");
+    QTest::newRow("none") << QByteArray(R"({
+        "floor": "", "format": {"format": "tiff"},
+        "frame": [5000, 0], "poster": "", "size": [-1, 9999],
+        "turn": [0, 0, 0, 0, 0, 0, 0, 0, 0],
+        "tint": [0, 0, 0, 0]})");
+    QTest::newRow("a path for a texture") << QByteArray(R"({
+        "floor": "./red.png", "format": {"format": "bmp"},
+        "frame": [1, 1], "poster": "red.png", "size": [1, 1],
+        "turn": [1, 0, 0, 0, 1, 0, 0, 0, 1],
+        "tint": [1, 1, 1, 1]})");
+}
+
+void tst_property_panel::picturesSurviveUnchanged()
+{
+    QFETCH(QByteArray, values);
+    write("values.json", values);
+
+    const Result result =
+        play("pictures.json --values values.json --output out.json", "press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(readObject("out.json"), readObject("values.json"));
+}
+
+void tst_property_panel::picturesStartAtTheFolderOfTheList()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("sub")));
+    write("sub/list.json", kPictureList);
+    write("sub/red.png", picture(Qt::red));
+    write("sub/blue.png", picture(Qt::blue));
+    write("sub/only here.png", picture(Qt::green));
+    write("values.json", R"({"poster": "only here.png"})");
+
+    QCOMPARE(runPlain("sub/list.json --check --values values.json").status, 0);
+    const Result result = runPlain("pictures.json --check --values values.json");
+
+    QCOMPARE(result.status, 2);
+    QCOMPARE(problemsOf(result.error),
+             QByteArray("values.json: error: /poster: there is no file \"only here.png\"\n"));
+}
+
+void tst_property_panel::picturesOfStandardInputStartAtTheCurrentFolder()
+{
+    QCOMPARE(runPlain("- --check", kPictureList).status, 0);
+}
+
+void tst_property_panel::checkTellsOfPictures()
+{
+    QVERIFY(QFile::remove(path("red.png")));
+    write("blue.png", "no picture");
+
+    const Result result = runPlain("pictures.json --check");
+
+    QCOMPARE(result.status, 2);
+    const QByteArray start = "pictures.json: error: /properties/";
+    QCOMPARE(problemsOf(result.error),
+             start + "0/default: there is no file \"red.png\"\n" + start
+                 + "2/hints/textures/0/file: there is no file \"red.png\"\n" + start
+                 + "2/hints/textures/1: \"blue.png\" cannot be read as a picture: Unsupported "
+                   "image format\n"
+                 + start + "2/default: there is no file \"Red\"\n");
+}
+
+void tst_property_panel::droppedPictureCanBeSaved()
+{
+    write("green.png", picture(Qt::green));
+    const QByteArray steps = "drop " + path("green.png").toUtf8() + ", item green.png, press Save";
+
+    const Result result = play("pictures.json --output out.json", steps.constData());
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(readObject("out.json").value(QStringLiteral("floor")),
+             QJsonValue(QStringLiteral("green.png")));
+    QCOMPARE(problemsOf(result.error), QByteArray());
+}
+
+void tst_property_panel::droppedTextIsTold()
+{
+    const QByteArray file = path("list.json").toUtf8();
+    const QByteArray steps = "drop " + file + ", press Save";
+
+    const Result result = play("pictures.json --output out.json", steps.constData());
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(problemsOf(result.error),
+             QByteArray("property-panel: error: \"list.json\" cannot be read as a picture: "
+                        "Unsupported image format\n"));
+    QCOMPARE(readObject("out.json").value(QStringLiteral("floor")),
+             QJsonValue(QStringLiteral("Red")));
+}
+
+void tst_property_panel::liveLinesOfPictures()
+{
+    write("values.json", R"({"format": {"format": "png", "compressionRate": 50}})");
+
+    const Result result =
+        play("pictures.json --values values.json --live",
+             "item blue.png, item blue.png, press jpeg, press Undo, press Reset All, press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(
+        result.outputLines(),
+        (QList<QByteArray>{
+            R"({"continued":false,"name":"floor","value":"blue.png"})",
+            R"({"continued":false,"name":"format","value":{"compressionRate":50,"format":"jpeg"}})",
+            R"({"continued":false,"name":"format","value":{"compressionRate":50,"format":"png"}})",
+            R"({"continued":false,"name":"format","value":{"format":"png"}})",
+            R"({"continued":false,"name":"floor","value":"Red"})",
+            R"({"floor":"Red","format":{"format":"png"},"frame":[8,6],"poster":"red.png","size":[8,6],"tint":[0,0,0,1],"turn":[1,0,0,0,1,0,0,0,1]})"}));
 }
 
 void tst_property_panel::saveWithTheKeyboard()

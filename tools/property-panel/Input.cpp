@@ -25,6 +25,12 @@ QString displayName(const QString &path)
     return path == kStandardInput ? tr("standard input") : path;
 }
 
+/// Where the relative paths of a list start; that of standard input starts where the program does.
+QString folderOf(const QString &path)
+{
+    return path == kStandardInput ? QString() : QFileInfo(path).path();
+}
+
 std::optional<QByteArray> readFile(const QString &path, QVector<PropertyHost::Problem> &problems)
 {
     return PropertyHost::readInputFile(path == kStandardInput ? QStringLiteral("/dev/stdin") : path,
@@ -42,7 +48,7 @@ void readList(const QString &path, Input &input)
 {
     QVector<PropertyHost::Problem> problems;
     if (const auto json = readFile(path, problems)) {
-        auto result = PropertyHost::readPropertyList(*json);
+        auto result = PropertyHost::readPropertyList(*json, folderOf(path));
         input.list = std::move(result.list);
         problems += result.problems;
     }

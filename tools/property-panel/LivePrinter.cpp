@@ -21,6 +21,12 @@ bool isStructural(const PropertyUI::Property &property)
            || property.type == PropertyUI::kPropertyTypeBeginTabGroup;
 }
 
+/// An editor that has no value to tell leaves the one before; that of an action never has any.
+bool isChange(const PropertyUI::Property &property, const QVariant &value)
+{
+    return value.isValid() || property.type == PropertyUI::kPropertyTypeAction;
+}
+
 } // namespace
 
 LivePrinter::LivePrinter(const PropertyHost::PropertyList &list, PropertyHost::PropertyStore *store,
@@ -39,7 +45,7 @@ LivePrinter::LivePrinter(const PropertyHost::PropertyList &list, PropertyHost::P
 
 void LivePrinter::print(const PropertyUI::Property &property, const QVariant &value, bool continued)
 {
-    if (m_outputFailed || isStructural(property))
+    if (m_outputFailed || isStructural(property) || !isChange(property, value))
         return;
     const QJsonValue json = PropertyHost::valueToJson(property, value);
     if (!json.isUndefined() && m_known.value(property.name, QJsonValue::Undefined) == json)

@@ -2,6 +2,7 @@
 
 #include "PanelWidth.h"
 #include "PictureNames.h"
+#include "TextureChoices.h"
 
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
@@ -122,6 +123,7 @@ RenderedPictures renderPanel(const PropertyHost::PropertyList &list,
 {
     auto *const panel = new PropertyUI::PropertyEditorPanel(list.properties(), &store, nullptr);
     panel->updateUI();
+    const TextureChoices textures(*panel, &store, list.folder());
     const std::unique_ptr<QWidget> sheet = makeSheet(panel, size); // takes the panel over
 
     RenderedPictures pictures;

@@ -3,12 +3,14 @@
 #include "GroupFolding.h"
 #include "PanelWidth.h"
 #include "StandardStreams.h"
+#include "TextureChoices.h"
 #include "UndoKeys.h"
 
 #include <core/KitColors.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
 #include <host/UndoDelegate.h>
+#include <host/ValueJson.h>
 #include <property/PropertyUI.h>
 
 #include <QAction>
@@ -70,6 +72,7 @@ PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::P
     , m_stack(new QUndoStack(this))
     , m_delegate(new PropertyHost::UndoDelegate(store, m_stack, this))
     , m_panel(makePanel())
+    , m_textures(new TextureChoices(*m_panel, m_delegate, list.folder(), this))
     , m_pending(m_panel)
 {
     setWindowTitle(list.title() + QStringLiteral("[*]"));
@@ -117,7 +120,7 @@ void PanelWindow::save()
     m_pending.commit();
     const QString error = m_writer.write(m_store->toJson(m_list));
     if (!error.isEmpty()) {
-        showError(error);
+        showProblems({error});
         return;
     }
     m_stack->setClean();
@@ -152,7 +155,8 @@ void PanelWindow::resetAll()
     QVector<PropertyUI::Property *> changed;
     const auto properties = m_list.properties();
     for (PropertyUI::Property *property : properties) {
-        if (defaults.value(property) != m_store->value(property))
+        if (!PropertyHost::isSameValue(*property, defaults.value(property),
+                                       m_store->value(property)))
             changed.append(property);
     }
     if (changed.isEmpty())
@@ -254,6 +258,7 @@ void PanelWindow::followStack()
     });
     connect(m_stack, &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
+    connect(m_textures, &TextureChoices::filesDropped, this, &PanelWindow::showProblems);
     connect(qApp, &QApplication::focusChanged, this, [this] { m_pending.commit(); });
 }
 
@@ -261,14 +266,18 @@ void PanelWindow::refresh()
 {
     m_panelIsStale = false;
     m_panel->updateUI();
+    m_textures->refresh();
     m_pending.noteShownValues();
 }
 
-void PanelWindow::showError(const QString &message)
+/// Tells the problems on the standard error stream and in the window; without any, takes back what
+/// the window told before.
+void PanelWindow::showProblems(const QStringList &problems)
 {
-    printError(QStringLiteral("property-panel: error: ") + message);
-    m_error->setText(message);
-    m_error->show();
+    for (const QString &problem : problems)
+        printError(QStringLiteral("property-panel: error: ") + problem);
+    m_error->setText(problems.join(QLatin1Char('\n')));
+    m_error->setVisible(!problems.isEmpty());
 }
 
 void PanelWindow::askAboutChanges()

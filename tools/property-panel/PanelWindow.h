@@ -29,13 +29,16 @@ class UndoDelegate;
 
 namespace Tessark::PropertyPanel {
 
+class TextureChoices;
+
 /**
  * The program's window: a panel that scrolls, undo and redo, and the buttons Save, Cancel and
  * "Reset All".
  *
  * Save writes the values and finishes; when that fails, the window stays and tells why. Cancel,
  * Escape and closing the window are the same; they ask first when there are unsaved changes. Text
- * that was typed but not committed counts as a change everywhere. The list and the store must
+ * that was typed but not committed counts as a change everywhere. Pictures dropped on a texture row
+ * are added to it; the window tells which could not be. The list and the store must
  * outlive the window.
  */
 class PanelWindow : public QWidget
@@ -80,7 +83,7 @@ private:
 
     void followStack();
     void refresh();
-    void showError(const QString &message);
+    void showProblems(const QStringList &problems);
     void askAboutChanges();
     void answered(int button);
     void finish(ExitStatus status);
@@ -91,6 +94,7 @@ private:
     QUndoStack *m_stack;
     PropertyHost::UndoDelegate *m_delegate;
     PropertyUI::PropertyEditorPanel *m_panel;
+    TextureChoices *m_textures;
     QScrollArea *m_scrollArea = nullptr;
     QLabel *m_error = nullptr;
     QPointer<QMessageBox> m_question;

@@ -125,6 +125,7 @@ bool PanelSubject::updateRow(int row)
 
 void PanelSubject::setValue(Property *property, const QVariant &value, ChangeFlags)
 {
+    ++m_delegateCalls;
     m_values[property] = value;
     if (m_echo == Echo::All)
         m_panel->updateUI();
@@ -134,5 +135,6 @@ void PanelSubject::setValue(Property *property, const QVariant &value, ChangeFla
 
 QVariant PanelSubject::value(Property *property)
 {
+    ++m_delegateCalls;
     return m_values.value(property);
 }

@@ -21,6 +21,9 @@ public:
     QAbstractSlider *slider() override;
     bool updateRow(int row) override;
 
+    /// How often the panel asked for a value or handed one over.
+    int delegateCalls() const { return m_delegateCalls; }
+
 private:
     void setValue(Tessark::PropertyUI::Property *property, const QVariant &value,
                   ChangeFlags flags) override;
@@ -31,4 +34,5 @@ private:
     QHash<Tessark::PropertyUI::Property *, QVariant> m_values;
     Tessark::PropertyUI::PropertyEditorPanel *m_panel = nullptr; // owned by the window
     Tessark::PropertyUI::PropertyEditor *m_draggedEditor = nullptr;
+    int m_delegateCalls = 0;
 };

@@ -5,10 +5,13 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
-#include <QAbstractSpinBox>
 #include <QButtonGroup>
+#include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QSpinBox>
 
 #include <algorithm>
 #include <cmath>
@@ -29,7 +32,61 @@ int clampedToInt(Number number)
     return static_cast<int>(std::clamp(number, lowest, highest));
 }
 
+QString textOf(const QDoubleSpinBox &spinBox, double value)
+{
+    return spinBox.textFromValue(value);
+}
+
+/// As the field writes whole numbers, unless a host gave it a way of its own.
+QString textOf(const QSpinBox &spinBox, int value)
+{
+    const QLocale locale = spinBox.locale();
+    return locale.toString(value).remove(locale.groupSeparator());
+}
+
+/// Whether the field holds value and its text says so.
+template <typename SpinBox, typename Number>
+bool showsExactly(const SpinBox &spinBox, Number value)
+{
+    return spinBox.value() == value
+           && spinBox.text() == spinBox.prefix() + textOf(spinBox, value) + spinBox.suffix();
+}
+
+/// The number that the field would hold after setValue(number).
+double asHeldBy(const QDoubleSpinBox &spinBox, double number)
+{
+    if (number != spinBox.value()) // what it holds is rounded
+        number = QString::number(number, 'f', spinBox.decimals()).toDouble();
+    return std::clamp(number, spinBox.minimum(), spinBox.maximum());
+}
+
 } // namespace
+
+void showQuietly(QSpinBox *spinBox, int value)
+{
+    if (!spinBox)
+        return;
+    const int held = std::clamp(value, spinBox->minimum(), spinBox->maximum());
+    if (!showsExactly(*spinBox, held))
+        setQuietly(spinBox, &QSpinBox::setValue, value);
+}
+
+void showQuietly(QDoubleSpinBox *spinBox, double value)
+{
+    if (spinBox && !showsExactly(*spinBox, asHeldBy(*spinBox, value)))
+        setQuietly(spinBox, &QDoubleSpinBox::setValue, value);
+}
+
+void showText(QLineEdit *lineEdit, const QString &text)
+{
+    if (!lineEdit)
+        return;
+    const bool unchanged = lineEdit->text() == text && lineEdit->cursorPosition() == text.size()
+                           && !lineEdit->hasSelectedText() && !lineEdit->isModified()
+                           && !lineEdit->isUndoAvailable() && !lineEdit->isRedoAvailable();
+    if (!unchanged)
+        lineEdit->setText(text);
+}
 
 int sliderPosition(double number)
 {

@@ -13,7 +13,11 @@
 class QAbstractSlider;
 class QAbstractSpinBox;
 class QButtonGroup;
+class QDoubleSpinBox;
 class QLabel;
+class QLineEdit;
+class QSpinBox;
+class QString;
 class QWidget;
 
 namespace Tessark::UI {
@@ -45,6 +49,15 @@ void setQuietly(Control *control, Setter setter, Args &&...args)
     const QSignalBlocker blocker(control);
     std::invoke(setter, control, std::forward<Args>(args)...);
 }
+
+// The same for the controls that a set costs most, since they format and paint anew even where nothing
+// changes: one that already shows exactly this, half-typed text included, is left alone.
+void showQuietly(QSpinBox *spinBox, int value);
+void showQuietly(QDoubleSpinBox *spinBox, double value);
+
+/// Sets the text; one that a set would leave exactly as it is, cursor and undo steps included, is
+/// left alone.
+void showText(QLineEdit *lineEdit, const QString &text);
 
 /// Runs action, which may emit, with the owner's flag set, and clears the flag afterwards unless
 /// the owner was deleted meanwhile.

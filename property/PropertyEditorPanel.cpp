@@ -68,6 +68,7 @@ public:
                 addRow(*editor, *property, widget);
             followTabs(*property, widget);
             connectToPanel(editor);
+            m_panel->m_indexesOf.insert(editor->editedProperty(), int(m_panel->m_editors.size()));
         }
         m_panel->m_editors.append(editor);
     }
@@ -117,6 +118,7 @@ private:
         }
         if (!page)
             return;
+        m_panel->m_layout->removeWidget(page); // where it was added as a row
         m_tabWidget->addTab(page, label);
         m_panel->m_layout = new PropertyLayout(kRowSpacing);
         page->setLayout(m_panel->m_layout);
@@ -147,14 +149,19 @@ PropertyEditorPanel::PropertyEditorPanel(QVector<Property *> properties,
     InitialiseRegistry();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    m_layout = new PropertyLayout(kRowSpacing);
-    setLayout(m_layout);
+    auto *const topLayout = new PropertyLayout(kRowSpacing);
+    m_layout = topLayout;
 
     // A tab group left open at the end of the list is not repaired: m_layout stays that of its last
     // page, on purpose.
+    m_editors.reserve(m_properties.size());
+    m_indexesOf.reserve(m_properties.size());
     Builder builder(this, context);
     for (Property *property : std::as_const(m_properties))
         builder.add(property);
+    // Only now, so that the rows' widgets are children behind all editors: whenever one of them is
+    // painted, Qt looks through the children behind it.
+    setLayout(topLayout);
 }
 
 PropertyEditorPanel::~PropertyEditorPanel()
@@ -184,9 +191,9 @@ void PropertyEditorPanel::updateProperty(Property *property)
     // A nested call clears the flag when it ends, as the inner of two scopes that share one flag.
     s_updatingProperty = true;
     const QPointer<PropertyEditorPanel> self(this);
-    for (int i = 0; self && i < m_editors.size(); ++i) {
-        PropertyEditor *editor = m_editors.at(i);
-        if (editor && editor->editedProperty() == property)
+    const QList<int> indexes = m_indexesOf.values(property); // the latest first
+    for (auto index = indexes.crbegin(); self && index != indexes.crend(); ++index) {
+        if (PropertyEditor *editor = m_editors.at(*index))
             editor->propertyChanged();
     }
     s_updatingProperty = false;

@@ -3,6 +3,7 @@
 #include "property/IPropertyEditorDelegate.h"
 #include "property/PropertyExport.h"
 
+#include <QMultiHash>
 #include <QPointer>
 #include <QString>
 #include <QVariant>
@@ -82,12 +83,13 @@ private:
 
     PropertyEditor *editorAt(const QPoint &position) const;
 
-    QVector<Property *> m_properties;             // not owned
-    QVector<QPointer<PropertyEditor>> m_editors;  // one for each property with a factory
-    IPropertyEditorDelegate *m_delegate;          // not owned, may be null
-    QPointer<PropertyLayout> m_layout;            // receives the next row
-    QPointer<PropertyEditor> m_interactiveEditor; // editor of the running interactive change
-    bool m_interactiveChangeSeen = false;         // a change of that run was already forwarded
+    QVector<Property *> m_properties;              // not owned
+    QVector<QPointer<PropertyEditor>> m_editors;   // one for each property with a factory
+    QMultiHash<const Property *, int> m_indexesOf; // where in m_editors a property's editors are
+    IPropertyEditorDelegate *m_delegate;           // not owned, may be null
+    QPointer<PropertyLayout> m_layout;             // receives the next row
+    QPointer<PropertyEditor> m_interactiveEditor;  // editor of the running interactive change
+    bool m_interactiveChangeSeen = false;          // a change of that run was already forwarded
 };
 
 } // namespace Tessark::PropertyUI

@@ -50,8 +50,8 @@ SizeFields::SizeFields(PropertyEditor *editor, const QString &constrainText)
 
 void SizeFields::show(const QSize &size)
 {
-    setQuietly(m_spinBoxes[Width], &QSpinBox::setValue, size.width());
-    setQuietly(m_spinBoxes[Height], &QSpinBox::setValue, size.height());
+    showQuietly(m_spinBoxes[Width], size.width());
+    showQuietly(m_spinBoxes[Height], size.height());
 }
 
 QSize SizeFields::size() const
@@ -69,7 +69,7 @@ void SizeFields::keepAspect(const QObject *changed, int value)
     const int side = other == m_spinBoxes[Height]
                          ? scaledSide(value, height, width, other->value())
                          : scaledSide(value, width, height, other->value());
-    setQuietly(other, &QSpinBox::setValue, side);
+    showQuietly(other, side);
 }
 
 void SizeFields::setEnabled(bool enabled)

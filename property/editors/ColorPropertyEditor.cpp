@@ -200,7 +200,7 @@ void ColorPropertyEditor::showInSpinBoxes()
     const std::array<double, kChannelCount> fractions = {m_color.redF(), m_color.greenF(),
                                                          m_color.blueF()};
     for (std::size_t i = 0; i < fractions.size(); ++i)
-        setQuietly(m_spinBoxes[i].data(), &QDoubleSpinBox::setValue, fractions[i] * inputScale());
+        showQuietly(m_spinBoxes[i].data(), fractions[i] * inputScale());
 }
 
 } // namespace Tessark::PropertyUI

@@ -59,7 +59,7 @@ void FloatPropertyEditor::setValue(const QVariant &value)
     setSliderQuietly(stored);
     // What the user is typing stays; the field's own value comes back only as an echo.
     if (m_spinBox && !m_spinBox->hasFocus())
-        setQuietly(m_spinBox, &DoubleSpinBox::setValue, finite(stored * m_displayScale));
+        showQuietly(m_spinBox, finite(stored * m_displayScale));
 }
 
 QVariant FloatPropertyEditor::value() const
@@ -162,7 +162,7 @@ double FloatPropertyEditor::toStored(double displayed) const
 
 void FloatPropertyEditor::sliderChanged(int)
 {
-    setQuietly(m_spinBox, &DoubleSpinBox::setValue, finite(m_displayScale * sliderValue()));
+    showQuietly(m_spinBox, finite(m_displayScale * sliderValue()));
     Q_EMIT valueChanged();
 }
 

@@ -128,7 +128,7 @@ void ImageFormatEditor::buttonChecked(int id)
 
 void ImageFormatEditor::showRate(int rate)
 {
-    setQuietly(m_qualitySpinBox, &QSpinBox::setValue, rate);
+    showQuietly(m_qualitySpinBox, rate);
     setQuietly(m_qualitySlider, &QSlider::setValue, rate);
 }
 

@@ -24,7 +24,7 @@ void IntegerPropertyEditor::setValue(const QVariant &value)
 {
     const int number = toSaturatedInt(value);
     setQuietly(m_slider, &QSlider::setValue, number);
-    setQuietly(m_spinBox, &QSpinBox::setValue, number);
+    showQuietly(m_spinBox, number);
 }
 
 QVariant IntegerPropertyEditor::value() const
@@ -68,7 +68,7 @@ void IntegerPropertyEditor::propertyChanged()
 
 void IntegerPropertyEditor::sliderChanged(int value)
 {
-    setQuietly(m_spinBox, &QSpinBox::setValue, value);
+    showQuietly(m_spinBox, value);
     Q_EMIT valueChanged();
 }
 

@@ -42,7 +42,7 @@ void PercentPropertyEditor::setValue(const QVariant &value)
         return;
     const float fraction = value.toFloat();
     setQuietly(m_slider, &QSlider::setValue, sliderPosition(double(fraction * kSliderUnits)));
-    setQuietly(m_spinBox, &QDoubleSpinBox::setValue, finite(double(fraction * kPerCent)));
+    showQuietly(m_spinBox, finite(double(fraction * kPerCent)));
 }
 
 QVariant PercentPropertyEditor::value() const
@@ -92,7 +92,7 @@ void PercentPropertyEditor::makeSpinBox()
 
 void PercentPropertyEditor::sliderChanged(int value)
 {
-    setQuietly(m_spinBox, &QDoubleSpinBox::setValue, value / kSliderUnitsPerPercent);
+    showQuietly(m_spinBox, value / kSliderUnitsPerPercent);
     Q_EMIT valueChanged();
 }
 

@@ -21,8 +21,7 @@ StringPropertyEditor::~StringPropertyEditor() = default;
 void StringPropertyEditor::setValue(const QVariant &value)
 {
     // Nothing is blocked: setting the text does not finish an edit.
-    if (m_lineEdit)
-        m_lineEdit->setText(value.toString());
+    showText(m_lineEdit, value.toString());
 }
 
 QVariant StringPropertyEditor::value() const

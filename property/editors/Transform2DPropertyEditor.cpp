@@ -187,8 +187,7 @@ void Transform2DPropertyEditor::sliderChanged(int)
 {
     whileFlagged(this, m_updating, [this] {
         for (std::size_t row = 0; row < m_rowCount; ++row) {
-            setQuietly(m_spinBoxes[row], &QDoubleSpinBox::setValue,
-                       m_sliders[row]->value() / double(kSliderUnitsPerUnit));
+            showQuietly(m_spinBoxes[row], m_sliders[row]->value() / double(kSliderUnitsPerUnit));
         }
         Q_EMIT valueChanged();
     });
@@ -283,7 +282,7 @@ QWidget *Transform2DPropertyEditor::makeContainer()
 
 void Transform2DPropertyEditor::showNumber(std::size_t row, double number)
 {
-    setQuietly(m_spinBoxes[row], &QDoubleSpinBox::setValue, finite(number));
+    showQuietly(m_spinBoxes[row], finite(number));
     setQuietly(m_sliders[row], &QSlider::setValue, positionOf(number));
 }
 
@@ -317,8 +316,7 @@ void Transform2DPropertyEditor::showScaleY(bool visible)
 
 void Transform2DPropertyEditor::copyScaleXToY()
 {
-    setQuietly(m_spinBoxes[scaleYRow()], &QDoubleSpinBox::setValue,
-               m_spinBoxes[scaleXRow()]->value());
+    showQuietly(m_spinBoxes[scaleYRow()], m_spinBoxes[scaleXRow()]->value());
     setQuietly(m_sliders[scaleYRow()], &QSlider::setValue, m_sliders[scaleXRow()]->value());
 }
 

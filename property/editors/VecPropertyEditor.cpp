@@ -154,8 +154,7 @@ void VecPropertyEditor::sliderChanged(int)
 {
     for (std::size_t i = 0; i < static_cast<std::size_t>(m_count); ++i) {
         if (m_sliders[i]) {
-            setQuietly(m_spinBoxes[i], &DoubleSpinBox::setValue,
-                       m_sliders[i]->value() / double(kSliderUnitsPerUnit));
+            showQuietly(m_spinBoxes[i], m_sliders[i]->value() / double(kSliderUnitsPerUnit));
         }
     }
     Q_EMIT valueChanged();
@@ -184,7 +183,7 @@ QVector4D VecPropertyEditor::components() const
 void VecPropertyEditor::setComponent(int index, float value)
 {
     const auto at = static_cast<std::size_t>(index);
-    setQuietly(m_spinBoxes[at], &DoubleSpinBox::setValue, finite(double(value)));
+    showQuietly(m_spinBoxes[at], finite(double(value)));
     setQuietly(m_sliders[at], &QSlider::setValue, positionOf(value));
 }
 

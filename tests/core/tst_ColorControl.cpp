@@ -124,6 +124,7 @@ private:
     void build();
     Slider *slider(int channel) const { return m_sliders.at(channel); }
     QString shown() const;
+    void destroy(const QString &victim);
 
     std::unique_ptr<ColorClient> m_client;
     QPointer<ColorControl> m_control;
@@ -971,18 +972,7 @@ void tst_ColorControl::clientMayDelete()
     int calls = 0;
     m_client->onColor = [&, victim](const std::array<float, 4> &) {
         ++calls;
-        if (victim == QStringLiteral("slider"))
-            delete slider(0);
-        else if (victim == QStringLiteral("other slider"))
-            delete slider(1);
-        else if (victim == QStringLiteral("wheel"))
-            delete m_wheel;
-        else if (victim == QStringLiteral("window"))
-            m_window.reset();
-        else
-            delete m_control;
-        if (victim == QStringLiteral("client"))
-            m_client.reset();
+        destroy(victim);
     };
 
     if (byDrag) {
@@ -1008,6 +998,23 @@ void tst_ColorControl::clientMayDelete()
     QVERIFY(!m_control || !m_control->isInteracting());
 }
 
+/// The control goes with its client.
+void tst_ColorControl::destroy(const QString &victim)
+{
+    if (victim == QStringLiteral("slider"))
+        delete slider(0);
+    else if (victim == QStringLiteral("other slider"))
+        delete slider(1);
+    else if (victim == QStringLiteral("wheel"))
+        delete m_wheel;
+    else if (victim == QStringLiteral("window"))
+        m_window.reset();
+    else
+        delete m_control;
+    if (victim == QStringLiteral("client"))
+        m_client.reset();
+}
+
 void tst_ColorControl::checkPointMayDelete_data()
 {
     clientMayDelete_data();
@@ -1018,20 +1025,7 @@ void tst_ColorControl::checkPointMayDelete()
     QFETCH(QString, victim);
     QFETCH(bool, byDrag);
     const QPointer<Slider> red = slider(0);
-    m_client->onCheckPoint = [this, victim] {
-        if (victim == QStringLiteral("slider"))
-            delete slider(0);
-        else if (victim == QStringLiteral("other slider"))
-            delete slider(1);
-        else if (victim == QStringLiteral("wheel"))
-            delete m_wheel;
-        else if (victim == QStringLiteral("window"))
-            m_window.reset();
-        else
-            delete m_control;
-        if (victim == QStringLiteral("client"))
-            m_client.reset();
-    };
+    m_client->onCheckPoint = [this, victim] { destroy(victim); };
 
     if (byDrag) {
         press(red, QPoint(200, 15));

@@ -36,6 +36,7 @@ QJsonObject toJson(const Measurement &measurement)
     for (const auto &[name, cost] : measurement.costs)
         object.insert(name, cost);
     object.insert(QStringLiteral("operations"), measurement.operations);
+    object.insert(QStringLiteral("qt"), QString::fromLatin1(qVersion()));
     return object;
 }
 

@@ -242,7 +242,7 @@ void PropertyLayout::setGeometry(const QRect &rect)
 
 QLayoutItem *PropertyLayout::itemAt(int index) const
 {
-    if (index < 0 || index >= count())
+    if (index < 0 || index >= PropertyLayout::count())
         return nullptr;
     return m_items[static_cast<std::size_t>(index)].item;
 }
@@ -250,7 +250,7 @@ QLayoutItem *PropertyLayout::itemAt(int index) const
 QLayoutItem *PropertyLayout::takeAt(int index)
 {
     // The size caches stay as they are: the panel adds all rows before it asks for sizes.
-    QLayoutItem *item = itemAt(index);
+    QLayoutItem *item = PropertyLayout::itemAt(index);
     if (!item)
         return nullptr;
     m_items.erase(m_items.begin() + index);

@@ -92,7 +92,7 @@ public:
 private:
     struct Entry
     {
-        QLayoutItem *item;
+        QLayoutItem *item = nullptr;
         LayoutOptions options;
         int width = -1;  // size hint as measured, then the width given in the row
         int height = -1; // size hint as measured

@@ -1,15 +1,18 @@
 #include "host/PropertyStore.h"
 
+#include "host/JsonConversion_p.h"
 #include "host/JsonInput_p.h"
 #include "host/PictureJson_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/PropertyList.h"
+#include "host/SettingsValue_p.h"
 #include "host/ValueJson.h"
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
 #include <QImage>
 #include <QMap>
+#include <QSettings>
 
 namespace Tessark::PropertyHost {
 
@@ -39,6 +42,13 @@ QVariant keptPicture(const Property &property, const QVariant &value, const QVar
     if (isShownAs(before, value))
         return before;
     return isShownAs(property.defaultValue, value) ? property.defaultValue : value;
+}
+
+/// Where a property's value stands in settings.
+QString settingsKey(const Property &property)
+{
+    const QString key = property.hint(kPropertyHintPreferencesKey).toString();
+    return key.isEmpty() ? property.name : key;
 }
 
 } // namespace
@@ -94,31 +104,54 @@ QVector<Problem> PropertyStore::readValues(const QByteArray &json, const Propert
     m_unknownValues = {};
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
         const Property *const property = properties.value(it.key());
-        if (property)
-            readValue(*property, it.value(), list.folder(), collector);
-        else
+        ConversionError error;
+        const bool isTaken =
+            property
+            && take(*property, convertValue(*property, it.value(), list.folder(), error), error,
+                    collector);
+        if (!isTaken) // not lost on writing unless there is a value to write
             m_unknownValues.insert(it.key(), it.value());
     }
     return collector.take();
 }
 
-void PropertyStore::readValue(const Property &property, const QJsonValue &json,
-                              const QString &folder, ProblemCollector &problems)
+QVector<Problem> PropertyStore::readSettings(const QSettings &settings, const PropertyList &list)
+{
+    ProblemCollector collector;
+    for (const Property *property : valuedProperties(list)) {
+        const QVariant setting = settings.value(settingsKey(*property));
+        ConversionError error;
+        if (setting.isValid())
+            take(*property, convertSetting(*property, setting, list.folder(), error), error,
+                 collector);
+    }
+    return collector.take();
+}
+
+void PropertyStore::writeSettings(QSettings &settings, const PropertyList &list) const
+{
+    for (const Property *property : valuedProperties(list)) {
+        const QJsonValue json = valueToJson(*property, m_values.value(property->name));
+        if (!json.isUndefined())
+            settings.setValue(settingsKey(*property), settingFromJson(json));
+    }
+}
+
+/// Keeps a value that was read, or tells why there is none.
+bool PropertyStore::take(const Property &property, const std::optional<QVariant> &value,
+                         const ConversionError &error, ProblemCollector &problems)
 {
     const QString pointer = childPointer(QString(), property.name);
-    ConversionError error;
-    const auto value = convertValue(property, json, folder, error);
     if (!value) {
-        // Not lost on writing unless there is a value to write.
-        m_unknownValues.insert(property.name, json);
         problems.error(pointer + error.path, error.message);
-        return;
+        return false;
     }
     m_values.insert(property.name, *value);
     if (isOutsideRange(property, *value)) {
         problems.warning(pointer,
                          QStringLiteral("%1 is outside of the range").arg(componentsText(*value)));
     }
+    return true;
 }
 
 QJsonObject PropertyStore::toJson(const PropertyList &list) const

@@ -14,7 +14,13 @@
 #include <QVariant>
 #include <QVector>
 
+#include <optional>
+
+class QSettings;
+
 namespace Tessark::PropertyHost {
+
+struct ConversionError;
 
 class ProblemCollector;
 class PropertyList;
@@ -60,6 +66,18 @@ public:
     /// a kept whole number beyond 2 to the power of 53 is rounded.
     QJsonObject toJson(const PropertyList &list) const;
 
+    /// Takes values from settings, whose groups and other keys stay as they are. The key is the
+    /// property's hint kPropertyHintPreferencesKey, or its name; a key that is absent changes
+    /// nothing. Values are read as writeSettings() writes them, and as people write them into an
+    /// INI file. A value that does not convert is an error with the pointer "/name" and changes
+    /// nothing. Relative paths start at the list's folder. Silent.
+    QVector<Problem> readSettings(const QSettings &settings, const PropertyList &list);
+
+    /// Writes the values of the list's properties under the same keys: texts, numbers and truth
+    /// values as they are, others as the text of their JSON form. A property whose value has no JSON
+    /// form is not written.
+    void writeSettings(QSettings &settings, const PropertyList &list) const;
+
 Q_SIGNALS:
     /// A panel, or another caller of setValue(), set a value. continued says that it goes on with
     /// the change before it. The value is invalid when an action was triggered.
@@ -67,8 +85,8 @@ Q_SIGNALS:
                       bool continued);
 
 private:
-    void readValue(const PropertyUI::Property &property, const QJsonValue &json,
-                   const QString &folder, ProblemCollector &problems);
+    bool take(const PropertyUI::Property &property, const std::optional<QVariant> &value,
+              const ConversionError &error, ProblemCollector &problems);
 
     QHash<QString, QVariant> m_values;
     QJsonObject m_unknownValues; // of names that the list did not have

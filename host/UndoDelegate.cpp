@@ -114,11 +114,16 @@ void UndoDelegate::setValue(PropertyUI::Property *property, const QVariant &valu
     // anything, and a stack must not be deleted while it pushes a command.
     const QPointer<UndoDelegate> self(this);
     const QVariant before = delegate()->value(property);
+    if (!self || !delegate())
+        return;
     if (!(flags & ContinuedChange))
         ++m_run;
     delegate()->setValue(property, value, flags);
-    if (self && delegate())
-        record(property, before, delegate()->value(property));
+    if (!self || !delegate())
+        return;
+    const QVariant after = delegate()->value(property);
+    if (self)
+        record(property, before, after);
 }
 
 QVariant UndoDelegate::value(PropertyUI::Property *property)

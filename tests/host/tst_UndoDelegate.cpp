@@ -31,7 +31,13 @@ public:
             onWrite();
     }
 
-    QVariant value(Property *property) override { return values.value(property->name); }
+    QVariant value(Property *property) override
+    {
+        const QVariant result = values.value(property->name);
+        if (onRead)
+            onRead();
+        return result;
+    }
 
     struct Write
     {
@@ -43,6 +49,7 @@ public:
     QMap<QString, QVariant> values;
     bool readOnly = false;
     std::function<void()> onWrite;
+    std::function<void()> onRead;
 };
 
 class ObjectStore : public QObject, public Store
@@ -82,6 +89,8 @@ private Q_SLOTS:
     void innerDelegateThatIsNoObjectIsTakenAway();
     void stackMayBeDeletedInTheCallback();
     void undoDelegateMayBeDeletedInTheCallback();
+    void undoDelegateMayBeDeletedWhenItAsks_data();
+    void undoDelegateMayBeDeletedWhenItAsks();
     void undoDelegateMayBeDeletedWhileUndoing();
     void panelShowsRestoredValues();
 
@@ -381,6 +390,33 @@ void tst_UndoDelegate::undoDelegateMayBeDeletedInTheCallback()
 
     set(m_gain, 2.0, kNew);
 
+    QCOMPARE(m_stack->count(), 0);
+}
+
+void tst_UndoDelegate::undoDelegateMayBeDeletedWhenItAsks_data()
+{
+    QTest::addColumn<int>("question");
+    QTest::addColumn<int>("writes");
+
+    QTest::newRow("before the edit") << 1 << 0;
+    QTest::newRow("after the edit") << 2 << 1;
+}
+
+void tst_UndoDelegate::undoDelegateMayBeDeletedWhenItAsks()
+{
+    QFETCH(int, question);
+    QFETCH(int, writes);
+    int asked = 0;
+    m_store->onRead = [this, &asked, question] {
+        if (++asked == question)
+            m_undo.reset();
+    };
+
+    set(m_gain, 2.0, kNew);
+    m_store->onRead = nullptr;
+
+    QVERIFY(!m_undo);
+    QCOMPARE(m_store->writes.size(), writes);
     QCOMPARE(m_stack->count(), 0);
 }
 

@@ -174,11 +174,13 @@ QString helpText()
     QCommandLineParser parser;
     describe(parser);
     return parser.helpText()
-           + tr("\nExit status:\n"
-                "  0  the values were saved, or what else was asked for was done\n"
-                "  1  the user cancelled; nothing was written\n"
-                "  2  wrong options, an error in the list or the values, no display to show a\n"
-                "     window on, or pictures that could not be written");
+           + tr(
+               "\nExit status:\n"
+               "  0  the values were saved, or what else was asked for was done\n"
+               "  1  the user cancelled, or nobody reads the changes of --live any more and there\n"
+               "     is no --output; nothing was written\n"
+               "  2  wrong options, an error in the list or the values, no display to show a\n"
+               "     window on, or pictures that could not be written");
 }
 
 } // namespace Tessark::PropertyPanel

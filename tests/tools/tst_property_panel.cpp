@@ -223,9 +223,10 @@ void tst_property_panel::helpTellsAllOptionsAndStatuses()
 {
     const Result result = runPlain("--help");
 
-    for (const char *text : {"LIST.json", "--values <FILE>", "--output <FILE>", "--live", "--check",
-                             "--render <PNG>", "--size <WxH>", "--theme <THEME>", "--version",
-                             "--help", "Exit status:", "\n  0  ", "\n  1  ", "\n  2  "})
+    for (const char *text :
+         {"LIST.json", "--values <FILE>", "--output <FILE>", "--live", "--check", "--render <PNG>",
+          "--size <WxH>", "--theme <THEME>", "--trusted", "--version", "--help",
+          "Exit status:", "\n  0  ", "\n  1  ", "\n  2  "})
         QVERIFY2(result.output.contains(text), text);
 }
 

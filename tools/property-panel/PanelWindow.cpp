@@ -9,6 +9,7 @@
 #include <core/KitColors.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <host/TextsAsWritten.h>
 #include <host/UndoDelegate.h>
 #include <host/ValueJson.h>
 #include <property/PropertyUI.h>
@@ -24,6 +25,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QUndoStack>
 #include <QVBoxLayout>
@@ -185,6 +187,7 @@ PropertyUI::PropertyEditorPanel *PanelWindow::makePanel()
 {
     auto *const panel =
         new PropertyUI::PropertyEditorPanel(m_list.properties(), m_delegate, nullptr);
+    PropertyHost::showTextsAsWritten(*panel);
     foldGroupsOnTabPages(*panel);
     panel->updateUI();
     widenToContents(*panel);
@@ -239,6 +242,12 @@ QAction *PanelWindow::addUndoAction(QAction *action, const QString &shortText, c
     disconnect(action, &QAction::triggered, m_stack, nullptr);
     action->setIconText(shortText);
     action->setIcon(QIcon::fromTheme(icon));
+    const auto setToolTip = [action] {
+        // The text holds a label of the list, which a tool tip would take for markup.
+        action->setToolTip(Qt::convertFromPlainText(action->text(), Qt::WhiteSpaceNormal));
+    };
+    setToolTip();
+    connect(action, &QAction::changed, action, setToolTip);
     addAction(action);
     return action;
 }

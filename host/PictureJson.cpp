@@ -16,22 +16,14 @@ const QLatin1String kPathKey("tessark-path");
 
 constexpr int kMaximumNamedPath = 300;
 
-/// A path for a message. Its end says more than its start.
-QString named(const QString &path)
-{
-    const bool isLong = path.size() > kMaximumNamedPath;
-    const QString shown = isLong ? QLatin1String("...") + path.right(kMaximumNamedPath) : path;
-    return QLatin1Char('"') + shown + QLatin1Char('"');
-}
-
 /// What speaks against opening the file; empty when nothing does.
 QString obstacle(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return QStringLiteral("there is no file %1").arg(named(path));
+        return QStringLiteral("there is no file %1").arg(namedPath(path));
     if (!info.isFile())
-        return QStringLiteral("%1 is not a file").arg(named(path));
+        return QStringLiteral("%1 is not a file").arg(namedPath(path));
     return QString();
 }
 
@@ -40,15 +32,15 @@ QString obstacle(const QImageReader &reader, const QString &path)
 {
     if (!reader.canRead()) {
         return QStringLiteral("%1 cannot be read as a picture: %2")
-            .arg(named(path), reader.errorString());
+            .arg(namedPath(path), reader.errorString());
     }
     const QSize size = reader.size();
     if (size.isEmpty())
-        return QStringLiteral("%1 does not tell the size of its picture").arg(named(path));
+        return QStringLiteral("%1 does not tell the size of its picture").arg(namedPath(path));
     if (qint64(size.width()) * size.height() > kMaximumPicturePixels) {
         return QStringLiteral("%1 is too large: it has %2 x %3 pixels, at most %4 megapixels are "
                               "read")
-            .arg(named(path))
+            .arg(namedPath(path))
             .arg(size.width())
             .arg(size.height())
             .arg(kMaximumPicturePixels / 1'000'000);
@@ -66,8 +58,8 @@ std::optional<QImage> decode(QFile &file, const QString &path, QString &problem)
     QImage picture = reader.read();
     if (!picture.isNull())
         return picture;
-    problem =
-        QStringLiteral("%1 cannot be read as a picture: %2").arg(named(path), reader.errorString());
+    problem = QStringLiteral("%1 cannot be read as a picture: %2")
+                  .arg(namedPath(path), reader.errorString());
     return std::nullopt;
 }
 
@@ -79,7 +71,7 @@ std::optional<QImage> readFile(const QString &path, QString &problem)
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         return decode(file, path, problem);
-    problem = QStringLiteral("%1 cannot be opened: %2").arg(named(path), file.errorString());
+    problem = QStringLiteral("%1 cannot be opened: %2").arg(namedPath(path), file.errorString());
     return std::nullopt;
 }
 
@@ -95,6 +87,23 @@ bool isNoPicture(const QVariant &value)
 QString resolvedPath(const QString &path, const QString &folder)
 {
     return QDir::cleanPath(QDir(folder).filePath(path));
+}
+
+QString namedPath(const QString &path)
+{
+    // The end of a path says more than its start.
+    const bool isLong = path.size() > kMaximumNamedPath;
+    const QString shown = isLong ? QLatin1String("...") + path.right(kMaximumNamedPath) : path;
+    return QLatin1Char('"') + shown + QLatin1Char('"');
+}
+
+PictureHeader pictureHeader(const QString &path)
+{
+    QFile file(path);
+    if (!obstacle(path).isEmpty() || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QImageReader reader(&file);
+    return reader.canRead() ? PictureHeader{reader.format(), reader.size()} : PictureHeader{};
 }
 
 std::optional<QImage> readPicture(const QString &path, const QString &folder,

@@ -2,8 +2,10 @@
 
 #include "host/JsonConversion_p.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QJsonValue>
+#include <QSize>
 #include <QString>
 #include <QVariant>
 
@@ -17,6 +19,19 @@ constexpr qint64 kMaximumPicturePixels = 32'000'000;
 
 /// Where a path of a list leads: relative ones start at folder, which is the current one if empty.
 QString resolvedPath(const QString &path, const QString &folder);
+
+/// A path in quotes for a message; a long one without its start.
+QString namedPath(const QString &path);
+
+/// What a file tells of its picture before that is decoded.
+struct PictureHeader
+{
+    QByteArray format; // empty when there is no file or no picture
+    QSize size;
+};
+
+/// Reads files and resources only, nothing that may block.
+PictureHeader pictureHeader(const QString &path);
 
 /// The picture of a file, upright, which remembers path for pictureToJson(). The error names the
 /// resolved path. Only files and resources are read, nothing that may block.

@@ -5,6 +5,7 @@
 #include "host/JsonInput_p.h"
 #include "host/NestingCheck_p.h"
 #include "host/ProblemCollector_p.h"
+#include "host/StrangerList_p.h"
 #include "host/Suggestion_p.h"
 #include "host/TextureJson_p.h"
 #include "host/ValueJson_p.h"
@@ -397,12 +398,19 @@ QString Reader::suggest(const QString &text, const QStringList &candidates) cons
 
 } // namespace
 
-PropertyListResult readPropertyList(const QByteArray &json, const QString &folder)
+PropertyListResult readPropertyList(const QByteArray &json, const QString &folder,
+                                    ListOrigin origin)
 {
     PropertyEditorPanel::InitialiseRegistry();
     PropertyListResult result;
-    if (const auto document = parseJson(json, result.problems))
-        result = Reader(folder).read(*document);
+    auto document = parseJson(json, result.problems);
+    if (!document)
+        return result;
+    ProblemCollector refused;
+    if (origin == ListOrigin::Stranger && document->isObject())
+        document->setObject(withoutRefusedParts(document->object(), folder, refused));
+    result = Reader(folder).read(*document);
+    result.problems = refused.take() + result.problems;
     return result;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/ListOrigin.h"
 #include "host/Problem.h"
 #include "host/PropertyList.h"
 
@@ -33,8 +34,15 @@ struct PropertyListResult
  * warning; so register editors of your own types in PropertyEditorRegistry before. A row with a bad
  * range, default or hint is read without it, and without the textures that cannot be read. A row that is no object, or has no usable type or
  * name, is left out, and so is the second row of a name; structural rows stay in without their name.
+ *
+ * Of a stranger's list these are errors and left out as well, and listed before all others: pictures
+ * outside of folder, wherever links lead, and pictures that can refer to other files, such as SVG;
+ * style sheets; a text of more than 10,000 characters, more than 1,000,000 characters in all, 10,000
+ * rows, 200,000 entries of arrays and objects, or 64 megapixels of pictures. Labels and static texts
+ * that look like markup are warned of; showTextsAsWritten() makes a panel show them as text.
  */
-TESSARK_PROPERTYHOST_EXPORT PropertyListResult readPropertyList(const QByteArray &json,
-                                                                const QString &folder = QString());
+TESSARK_PROPERTYHOST_EXPORT PropertyListResult
+readPropertyList(const QByteArray &json, const QString &folder = QString(),
+                 ListOrigin origin = ListOrigin::Trusted);
 
 } // namespace Tessark::PropertyHost

@@ -4,6 +4,7 @@
 #include "property/PropertyEditor.h"
 #include "property/PropertyEditorRegistry.h"
 #include "property/PropertyLayout.h"
+#include "property/ThreadCheck_p.h"
 
 #include <QContextMenuEvent>
 #include <QCursor>
@@ -146,7 +147,8 @@ private:
 PropertyEditorPanel::PropertyEditorPanel(QVector<Property *> properties,
                                          IPropertyEditorDelegate *delegate,
                                          PropertyEditorContext *context)
-    : m_properties(std::move(properties))
+    : QWidget(noParentInGuiThread())
+    , m_properties(std::move(properties))
     , m_delegate(delegate)
 {
     InitialiseRegistry();

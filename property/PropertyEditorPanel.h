@@ -31,6 +31,10 @@ class PropertyLayout;
  * goes to the delegate at once. A right click on the row of a property with a default offers "Set
  * to Default".
  *
+ * Like every widget, a panel is made, used and deleted in the GUI thread, that of the QApplication,
+ * which must exist before. In debug builds the constructor ends the program with a message otherwise;
+ * in others nothing is checked.
+ *
  * The properties and the delegate belong to the host and must outlive the panel; the panel owns its
  * editors and widgets. It may be deleted in any callback of the delegate.
  */

@@ -10,16 +10,20 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
+
+#include <unistd.h>
 
 namespace {
 
 /// Plays the steps of the variable TESSARK_DRIVER_STEPS, one a line, once a window is there:
 /// "line TEXT" and "text TEXT" type into the first field of that kind, "press BUTTON" clicks the
 /// button with that text, "item TEXT" clicks the first entry of a list with that text, "drop PATH" drops
-/// a file on the first list, "key KEYS" presses a key, "close" closes the window.
+/// a file on the first list, "key KEYS" presses a key, "close" closes the window, "shell COMMAND" runs a
+/// command, "await" says so on standard output, waits for a line of standard input and goes on.
 class Driver : public QObject
 {
 public:
@@ -68,6 +72,10 @@ private:
             pressKey(window, QKeySequence(rest));
         else if (verb == QLatin1String("close"))
             window->close();
+        else if (verb == QLatin1String("shell"))
+            runInShell(rest);
+        else if (verb == QLatin1String("await"))
+            awaitLine();
         else
             qFatal("unknown step");
     }
@@ -128,6 +136,20 @@ private:
     {
         QWidget *const focus = QApplication::focusWidget();
         QTest::keySequence(focus ? focus : window, keys);
+    }
+
+    static void runInShell(const QString &command)
+    {
+        if (QProcess::execute(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command}) != 0)
+            qFatal("a command has failed");
+    }
+
+    void awaitLine()
+    {
+        char byte = 0;
+        if (write(STDOUT_FILENO, "awaiting\n", 9) != 9 || read(STDIN_FILENO, &byte, 1) != 1)
+            qFatal("nobody answers");
+        playNext();
     }
 
     QStringList m_steps;

@@ -1,5 +1,7 @@
 // Runs the program itself, as a script or a user would.
 
+#include <tools/ProgramRun.h>
+
 #include <QBuffer>
 #include <QColor>
 #include <QDir>
@@ -15,8 +17,6 @@
 #include <memory>
 
 namespace {
-
-constexpr int kTimeout = 60000; // of one run, in milliseconds
 
 const QByteArray kList = R"({
     "version": 1,
@@ -52,20 +52,7 @@ QByteArray picture(const QColor &color)
     return buffer.data();
 }
 
-struct Result
-{
-    int status = -1; // stays when the program crashed or hung
-    QByteArray output;
-    QByteArray error;
-
-    QList<QByteArray> outputLines() const
-    {
-        QList<QByteArray> lines = output.split('\n');
-        if (lines.last().isEmpty())
-            lines.removeLast();
-        return lines;
-    }
-};
+using Result = ProgramResult;
 
 /// The lines of the standard error stream that are the program's own, not the platform's.
 QByteArray problemsOf(const QByteArray &error)
@@ -82,12 +69,6 @@ QByteArray problemsOf(const QByteArray &error)
 QStringList words(const char *line)
 {
     return QString::fromLatin1(line).split(QLatin1Char(' '));
-}
-
-/// The steps of the driver, separated by commas.
-QStringList steps(const char *line)
-{
-    return QString::fromLatin1(line).split(QStringLiteral(", "));
 }
 
 } // namespace
@@ -148,12 +129,6 @@ private:
     QByteArray read(const char *name) const;
     QJsonObject readObject(const char *name) const;
 
-    /// The environment of a machine without display.
-    static QProcessEnvironment withoutDisplay();
-
-    /// An environment in which a driver plays the steps; see PanelDriver.cpp.
-    static QProcessEnvironment withDriver(const QStringList &steps);
-
     Result run(const QStringList &arguments, const QProcessEnvironment &environment,
                const QByteArray &input = QByteArray()) const;
     Result runPlain(const char *arguments, const QByteArray &input = QByteArray()) const;
@@ -161,7 +136,6 @@ private:
 
     /// Runs a shell command line in which $0 is the program.
     Result playInShell(const char *command, const char *steps) const;
-    Result finish(QProcess &process, const QByteArray &input = QByteArray()) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -194,24 +168,6 @@ QJsonObject tst_property_panel::readObject(const char *name) const
     return QJsonDocument::fromJson(read(name)).object();
 }
 
-QProcessEnvironment tst_property_panel::withoutDisplay()
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR"})
-        environment.remove(QLatin1String(name));
-    return environment;
-}
-
-QProcessEnvironment tst_property_panel::withDriver(const QStringList &steps)
-{
-    QProcessEnvironment environment = withoutDisplay();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(TEST_PLUGINS));
-    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("tessarkdriver"));
-    environment.insert(QStringLiteral("TESSARK_DRIVER_STEPS"), steps.join(QLatin1Char('\n')));
-    return environment;
-}
-
 Result tst_property_panel::run(const QStringList &arguments, const QProcessEnvironment &environment,
                                const QByteArray &input) const
 {
@@ -219,7 +175,7 @@ Result tst_property_panel::run(const QStringList &arguments, const QProcessEnvir
     process.setProgram(QStringLiteral(PROPERTY_PANEL_PROGRAM));
     process.setArguments(arguments);
     process.setProcessEnvironment(environment);
-    return finish(process, input);
+    return finishRun(process, m_folder->path(), input);
 }
 
 Result tst_property_panel::runPlain(const char *arguments, const QByteArray &input) const
@@ -227,37 +183,17 @@ Result tst_property_panel::runPlain(const char *arguments, const QByteArray &inp
     return run(words(arguments), withoutDisplay(), input);
 }
 
-Result tst_property_panel::play(const char *arguments, const char *driverSteps) const
+Result tst_property_panel::play(const char *arguments, const char *steps) const
 {
-    return run(words(arguments), withDriver(steps(driverSteps)));
+    return run(words(arguments), withDriver(driverSteps(steps)));
 }
 
-Result tst_property_panel::playInShell(const char *command, const char *driverSteps) const
+Result tst_property_panel::playInShell(const char *command, const char *steps) const
 {
     QProcess process;
-    process.setProgram(QStringLiteral("/bin/sh"));
-    process.setArguments({QStringLiteral("-c"), QString::fromLatin1(command),
-                          QStringLiteral(PROPERTY_PANEL_PROGRAM)});
-    process.setProcessEnvironment(withDriver(steps(driverSteps)));
-    return finish(process);
-}
-
-Result tst_property_panel::finish(QProcess &process, const QByteArray &input) const
-{
-    process.setWorkingDirectory(m_folder->path());
-    process.start();
-    process.write(input);
-    process.closeWriteChannel();
-    Result result;
-    if (!process.waitForFinished(kTimeout)) {
-        process.kill();
-        process.waitForFinished();
-    } else if (process.exitStatus() == QProcess::NormalExit) {
-        result.status = process.exitCode();
-    }
-    result.output = process.readAllStandardOutput();
-    result.error = process.readAllStandardError();
-    return result;
+    prepareShell(process, QString::fromLatin1(command));
+    process.setProcessEnvironment(withDriver(driverSteps(steps)));
+    return finishRun(process, m_folder->path());
 }
 
 void tst_property_panel::helpAndVersionNeedNoDisplay_data()
@@ -287,9 +223,10 @@ void tst_property_panel::helpTellsAllOptionsAndStatuses()
 {
     const Result result = runPlain("--help");
 
-    for (const char *text : {"LIST.json", "--values <FILE>", "--output <FILE>", "--live", "--check",
-                             "--render <PNG>", "--size <WxH>", "--theme <THEME>", "--version",
-                             "--help", "Exit status:", "\n  0  ", "\n  1  ", "\n  2  "})
+    for (const char *text :
+         {"LIST.json", "--values <FILE>", "--output <FILE>", "--live", "--check", "--render <PNG>",
+          "--size <WxH>", "--theme <THEME>", "--trusted", "--version", "--help",
+          "Exit status:", "\n  0  ", "\n  1  ", "\n  2  "})
         QVERIFY2(result.output.contains(text), text);
 }
 

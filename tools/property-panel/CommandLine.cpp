@@ -21,6 +21,7 @@ const QString kCheck = QStringLiteral("check");
 const QString kRender = QStringLiteral("render");
 const QString kSize = QStringLiteral("size");
 const QString kTheme = QStringLiteral("theme");
+const QString kTrusted = QStringLiteral("trusted");
 const QString kVersion = QStringLiteral("version");
 const QString kHelp = QStringLiteral("help");
 
@@ -52,6 +53,8 @@ void describe(QCommandLineParser &parser)
         {kSize, tr("Size of the window, or of the picture; a picture grows to hold the panel."),
          tr("WxH")},
         {kTheme, tr("Look: system (the default), light or dark."), tr("THEME")},
+        {kTrusted, tr("Let the list name pictures anywhere and have style sheets. Without it, its "
+                      "pictures must lie in its folder or below.")},
         {{QStringLiteral("v"), kVersion}, tr("Print the version.")},
         {{QStringLiteral("h"), kHelp}, tr("Print this help.")},
     });
@@ -114,6 +117,7 @@ Options pathsAndFlags(const QCommandLineParser &parser)
     options.outputPath = parser.value(kOutput);
     options.renderPath = parser.value(kRender);
     options.live = parser.isSet(kLive);
+    options.trusted = parser.isSet(kTrusted);
     return options;
 }
 
@@ -174,11 +178,13 @@ QString helpText()
     QCommandLineParser parser;
     describe(parser);
     return parser.helpText()
-           + tr("\nExit status:\n"
-                "  0  the values were saved, or what else was asked for was done\n"
-                "  1  the user cancelled; nothing was written\n"
-                "  2  wrong options, an error in the list or the values, no display to show a\n"
-                "     window on, or pictures that could not be written");
+           + tr(
+               "\nExit status:\n"
+               "  0  the values were saved, or what else was asked for was done\n"
+               "  1  the user cancelled, or nobody reads the changes of --live any more and there\n"
+               "     is no --output; nothing was written\n"
+               "  2  wrong options, an error in the list or the values, no display to show a\n"
+               "     window on, or pictures that could not be written");
 }
 
 } // namespace Tessark::PropertyPanel

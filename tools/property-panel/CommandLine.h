@@ -21,6 +21,7 @@ struct Options
     QSize size;         // invalid: as large as the panel wants
     Theme theme = Theme::System;
     bool live = false;
+    bool trusted = false;
 };
 
 struct CommandLine

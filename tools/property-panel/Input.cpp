@@ -44,11 +44,11 @@ void note(const QVector<PropertyHost::Problem> &problems, const QString &path, I
     input.hasErrors = input.hasErrors || PropertyHost::hasErrors(problems);
 }
 
-void readList(const QString &path, Input &input)
+void readList(const QString &path, PropertyHost::ListOrigin origin, Input &input)
 {
     QVector<PropertyHost::Problem> problems;
     if (const auto json = readFile(path, problems)) {
-        auto result = PropertyHost::readPropertyList(*json, folderOf(path));
+        auto result = PropertyHost::readPropertyList(*json, folderOf(path), origin);
         input.list = std::move(result.list);
         problems += result.problems;
     }
@@ -71,7 +71,11 @@ void readValues(const QString &path, Input &input)
 Input readInput(const Options &options)
 {
     Input input;
-    readList(options.listPath.isEmpty() ? kBuiltInList : options.listPath, input);
+    const bool isBuiltIn = options.listPath.isEmpty();
+    readList(isBuiltIn ? kBuiltInList : options.listPath,
+             isBuiltIn || options.trusted ? PropertyHost::ListOrigin::Trusted
+                                          : PropertyHost::ListOrigin::Stranger,
+             input);
     input.store = std::make_unique<PropertyHost::PropertyStore>();
     input.store->reset(input.list);
     if (!options.valuesPath.isEmpty())

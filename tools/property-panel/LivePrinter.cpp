@@ -59,6 +59,8 @@ void LivePrinter::print(const PropertyUI::Property &property, const QVariant &va
     QString error;
     m_outputFailed =
         !writeStandardOutput(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n', &error);
+    if (m_outputFailed)
+        Q_EMIT outputLost();
 }
 
 } // namespace Tessark::PropertyPanel

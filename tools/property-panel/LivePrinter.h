@@ -33,6 +33,10 @@ public:
     LivePrinter(const PropertyHost::PropertyList &list, PropertyHost::PropertyStore *store,
                 QObject *parent = nullptr);
 
+Q_SIGNALS:
+    /// A change could not be printed, and none is printed any more. Emitted once.
+    void outputLost();
+
 private:
     void print(const PropertyUI::Property &property, const QVariant &value, bool continued);
 

@@ -6,6 +6,7 @@
 
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <host/TextsAsWritten.h>
 #include <property/PropertyUI.h>
 
 #include <QCoreApplication>
@@ -23,6 +24,7 @@ namespace {
 
 constexpr int kMargin = 12;
 constexpr int kSmallestUsualWidth = 460;
+constexpr double kMaximumPixels = 100'000'000.0; // of a picture: what the largest size asks for
 
 /// A tab page by the way to it.
 struct Step
@@ -77,7 +79,7 @@ QVector<Step> turnTo(const QVector<Step> &pages)
     return before;
 }
 
-std::unique_ptr<QWidget> makeSheet(PropertyUI::PropertyEditorPanel *panel, const QSize &size)
+std::unique_ptr<QWidget> makeSheet(PropertyUI::PropertyEditorPanel *panel)
 {
     auto sheet = std::make_unique<QWidget>();
     auto *const layout = new QVBoxLayout(sheet.get());
@@ -89,9 +91,28 @@ std::unique_ptr<QWidget> makeSheet(PropertyUI::PropertyEditorPanel *panel, const
     sheet->setAttribute(Qt::WA_DontShowOnScreen);
     sheet->show();
     widenToContents(*panel);
-    sheet->resize(size.isValid() ? size.expandedTo(sheet->minimumSizeHint())
-                                 : sheet->sizeHint().expandedTo(QSize(kSmallestUsualWidth, 0)));
     return sheet;
+}
+
+/// The size of the sheet for the size that was asked for, if any.
+QSize pictureSize(const QWidget &sheet, const QSize &size)
+{
+    return size.isValid() ? size.expandedTo(sheet.minimumSizeHint())
+                          : sheet.sizeHint().expandedTo(QSize(kSmallestUsualWidth, 0));
+}
+
+/// Why no picture of that size can be drawn; empty when it can.
+QString obstacle(const QSize &size, double scale, const QString &path)
+{
+    if (double(size.width()) * size.height() * scale * scale <= kMaximumPixels)
+        return QString();
+    return QCoreApplication::translate(
+               "PanelRenderer",
+               "Cannot write %1: the panel takes %2 x %3 pixels, at most %4 megapixels are drawn")
+        .arg(path)
+        .arg(size.width() * scale)
+        .arg(size.height() * scale)
+        .arg(kMaximumPixels / 1'000'000);
 }
 
 /// Writes a picture of the sheet, whole or not at all; gives the reason when it cannot.
@@ -122,11 +143,17 @@ RenderedPictures renderPanel(const PropertyHost::PropertyList &list,
                              const QSize &size)
 {
     auto *const panel = new PropertyUI::PropertyEditorPanel(list.properties(), &store, nullptr);
+    PropertyHost::showTextsAsWritten(*panel);
     panel->updateUI();
     const TextureChoices textures(*panel, &store, list.folder());
-    const std::unique_ptr<QWidget> sheet = makeSheet(panel, size); // takes the panel over
+    const std::unique_ptr<QWidget> sheet = makeSheet(panel); // takes the panel over
 
     RenderedPictures pictures;
+    const QSize whole = pictureSize(*sheet, size);
+    pictures.error = obstacle(whole, sheet->devicePixelRatioF(), path);
+    if (!pictures.error.isEmpty())
+        return pictures;
+    sheet->resize(whole);
     PictureNames names(path);
     addPicture(pictures, *sheet, path);
     const QVector<QTabWidget *> groups = tabGroups(*panel);

@@ -9,6 +9,7 @@
 #include <core/KitColors.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <host/TextsAsWritten.h>
 #include <host/UndoDelegate.h>
 #include <host/ValueJson.h>
 #include <property/PropertyUI.h>
@@ -19,12 +20,12 @@
 #include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QUndoStack>
 #include <QVBoxLayout>
@@ -118,13 +119,10 @@ QSize PanelWindow::sizeHint() const
 void PanelWindow::save()
 {
     m_pending.commit();
-    const QString error = m_writer.write(m_store->toJson(m_list));
-    if (!error.isEmpty()) {
-        showProblems({error});
-        return;
-    }
-    m_stack->setClean();
-    finish(ExitStatus::Saved);
+    if (m_writer.hasForeignContent())
+        askAboutForeignContent();
+    else
+        writeValues();
 }
 
 void PanelWindow::cancel()
@@ -189,6 +187,7 @@ PropertyUI::PropertyEditorPanel *PanelWindow::makePanel()
 {
     auto *const panel =
         new PropertyUI::PropertyEditorPanel(m_list.properties(), m_delegate, nullptr);
+    PropertyHost::showTextsAsWritten(*panel);
     foldGroupsOnTabPages(*panel);
     panel->updateUI();
     widenToContents(*panel);
@@ -243,6 +242,12 @@ QAction *PanelWindow::addUndoAction(QAction *action, const QString &shortText, c
     disconnect(action, &QAction::triggered, m_stack, nullptr);
     action->setIconText(shortText);
     action->setIcon(QIcon::fromTheme(icon));
+    const auto setToolTip = [action] {
+        // The text holds a label of the list, which a tool tip would take for markup.
+        action->setToolTip(Qt::convertFromPlainText(action->text(), Qt::WhiteSpaceNormal));
+    };
+    setToolTip();
+    connect(action, &QAction::changed, action, setToolTip);
     addAction(action);
     return action;
 }
@@ -280,27 +285,70 @@ void PanelWindow::showProblems(const QStringList &problems)
     m_error->setVisible(!problems.isEmpty());
 }
 
+void PanelWindow::writeValues()
+{
+    const QString error = m_writer.write(m_store->toJson(m_list));
+    if (!error.isEmpty()) {
+        showProblems({error});
+        return;
+    }
+    m_writer.noteContent();
+    m_stack->setClean();
+    finish(ExitStatus::Saved);
+}
+
+void PanelWindow::makeQuestion(const QString &text, const QString &information,
+                               QMessageBox::StandardButtons buttons)
+{
+    m_question = new QMessageBox(QMessageBox::Question, m_list.title(), text, buttons, this);
+    m_question->setTextFormat(Qt::PlainText);
+    m_question->setInformativeText(information);
+    m_question->setEscapeButton(QMessageBox::Cancel);
+    m_question->setAttribute(Qt::WA_DeleteOnClose);
+}
+
 void PanelWindow::askAboutChanges()
 {
     if (m_question)
         return;
-    m_question =
-        new QMessageBox(QMessageBox::Question, m_list.title(), tr("Save the changed values?"),
-                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    m_question->setInformativeText(tr("Changes that are not saved are lost."));
+    makeQuestion(tr("Save the changed values?"), tr("Changes that are not saved are lost."),
+                 QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     m_question->setDefaultButton(QMessageBox::Save);
-    m_question->setEscapeButton(QMessageBox::Cancel);
-    m_question->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_question, &QMessageBox::finished, this, &PanelWindow::answered);
     m_question->open();
 }
 
 void PanelWindow::answered(int button)
 {
+    m_question = nullptr; // deleted later, and saving may ask the next one
     if (button == QMessageBox::Save)
         save();
     else if (button == QMessageBox::Discard)
         finish(ExitStatus::Cancelled);
+}
+
+void PanelWindow::askAboutForeignContent()
+{
+    if (m_question)
+        return;
+    const QString file = m_writer.path();
+    showProblems({tr("%1 was written by another program meanwhile").arg(file)});
+    makeQuestion(tr("Replace what another program has written to %1?").arg(file),
+                 tr("It was written while this window was open."),
+                 QMessageBox::Yes | QMessageBox::Cancel);
+    m_question->button(QMessageBox::Yes)->setText(tr("Replace"));
+    m_question->setDefaultButton(QMessageBox::Cancel);
+    // The answer is about what the file holds now, and not about what comes later.
+    ValuesWriter writer = m_writer;
+    writer.noteContent();
+    connect(m_question, &QMessageBox::finished, this, [this, writer](int button) {
+        m_question = nullptr;
+        if (button == QMessageBox::Yes) {
+            m_writer = writer;
+            save();
+        }
+    });
+    m_question->open();
 }
 
 void PanelWindow::finish(ExitStatus status)

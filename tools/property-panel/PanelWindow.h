@@ -4,6 +4,7 @@
 #include "PendingEdits.h"
 #include "ValuesWriter.h"
 
+#include <QMessageBox>
 #include <QPointer>
 #include <QWidget>
 
@@ -13,7 +14,6 @@ class QAction;
 class QBoxLayout;
 class QDialogButtonBox;
 class QLabel;
-class QMessageBox;
 class QScrollArea;
 class QUndoStack;
 
@@ -35,7 +35,8 @@ class TextureChoices;
  * The program's window: a panel that scrolls, undo and redo, and the buttons Save, Cancel and
  * "Reset All".
  *
- * Save writes the values and finishes; when that fails, the window stays and tells why. Cancel,
+ * Save writes the values and finishes; when that fails, the window stays and tells why. When another
+ * program has written the file meanwhile, it asks before it replaces that. Cancel,
  * Escape and closing the window are the same; they ask first when there are unsaved changes. Text
  * that was typed but not committed counts as a change everywhere. Pictures dropped on a texture row
  * are added to it; the window tells which could not be. The list and the store must
@@ -84,8 +85,12 @@ private:
     void followStack();
     void refresh();
     void showProblems(const QStringList &problems);
+    void writeValues();
+    void makeQuestion(const QString &text, const QString &information,
+                      QMessageBox::StandardButtons buttons);
     void askAboutChanges();
     void answered(int button);
+    void askAboutForeignContent();
     void finish(ExitStatus status);
 
     const PropertyHost::PropertyList &m_list;

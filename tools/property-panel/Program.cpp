@@ -42,19 +42,40 @@ ExitStatus render(const Input &input, const Options &options)
     return ExitStatus::BadInput;
 }
 
-ExitStatus edit(const Input &input, const Options &options)
+bool printsLinesOnly(const Options &options)
 {
-    const bool linesOnly = options.live && options.outputPath.isEmpty();
-    PanelWindow window(input.list, input.store.get(),
-                       ValuesWriter(options.outputPath, linesOnly
-                                                            ? ValuesWriter::Layout::OneLine
-                                                            : ValuesWriter::Layout::Indented));
+    return options.live && options.outputPath.isEmpty();
+}
+
+ValuesWriter makeWriter(const Options &options)
+{
+    return ValuesWriter(options.outputPath, printsLinesOnly(options)
+                                                ? ValuesWriter::Layout::OneLine
+                                                : ValuesWriter::Layout::Indented);
+}
+
+void exitWith(ExitStatus status)
+{
+    QCoreApplication::exit(static_cast<int>(status));
+}
+
+void printChanges(const Input &input, const Options &options, PanelWindow *window)
+{
+    auto *const printer = new LivePrinter(input.list, input.store.get(), window);
+    // Without reader, and without another place for the values, nothing is left to do.
+    if (printsLinesOnly(options))
+        QObject::connect(printer, &LivePrinter::outputLost, qApp,
+                         [] { exitWith(ExitStatus::Cancelled); });
+}
+
+ExitStatus edit(const Input &input, const Options &options, const ValuesWriter &writer)
+{
+    PanelWindow window(input.list, input.store.get(), writer);
     if (options.live)
-        new LivePrinter(input.list, input.store.get(), &window);
+        printChanges(input, options, &window);
     // The window says how it ended; that it was the last one says nothing.
     QApplication::setQuitOnLastWindowClosed(false);
-    QObject::connect(&window, &PanelWindow::finished, qApp,
-                     [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); });
+    QObject::connect(&window, &PanelWindow::finished, qApp, exitWith);
     window.resize(options.size.isValid() ? options.size : window.sizeHint());
     window.show();
     return static_cast<ExitStatus>(QApplication::exec());
@@ -62,6 +83,8 @@ ExitStatus edit(const Input &input, const Options &options)
 
 ExitStatus runTask(const Options &options, Display display)
 {
+    // Before the values are read, so that it notices whoever writes them after that.
+    const ValuesWriter writer = makeWriter(options);
     const Input input = readInput(options);
     for (const QString &problem : input.problems)
         printError(problem);
@@ -73,7 +96,7 @@ ExitStatus runTask(const Options &options, Display display)
     if (options.task == Options::Task::Render)
         return render(input, options);
     if (display == Display::Present)
-        return edit(input, options);
+        return edit(input, options, writer);
     printProblem(tr("There is no display to show a window on. Use --render to draw the panel to "
                     "PNG files, or --check to look for problems only."));
     return ExitStatus::BadInput;

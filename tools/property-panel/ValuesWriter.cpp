@@ -1,11 +1,14 @@
 #include "ValuesWriter.h"
 
+#include "FileReplacement.h"
 #include "StandardStreams.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace Tessark::PropertyPanel {
 
@@ -26,10 +29,19 @@ QString writeToStandardOutput(const QByteArray &data)
 
 QString writeToFile(const QString &path, const QByteArray &data)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit())
-        return QString();
-    return tr("Cannot write %1: %2").arg(path, file.errorString());
+    const QString error = replaceFile(path, data);
+    return error.isEmpty() ? QString() : tr("Cannot write %1: %2").arg(path, error);
+}
+
+/// Tells contents of a file apart; empty when there is no file.
+QByteArray contentMark(const QString &path)
+{
+    QFile file(path);
+    if (path.isEmpty() || !QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(&file);
+    return hash.result();
 }
 
 } // namespace
@@ -37,7 +49,24 @@ QString writeToFile(const QString &path, const QByteArray &data)
 ValuesWriter::ValuesWriter(const QString &path, Layout layout)
     : m_path(path)
     , m_layout(layout)
+    , m_contentMark(contentMark(path))
 {
+}
+
+QString ValuesWriter::path() const
+{
+    return m_path;
+}
+
+bool ValuesWriter::hasForeignContent() const
+{
+    const QByteArray mark = contentMark(m_path);
+    return !mark.isEmpty() && mark != m_contentMark;
+}
+
+void ValuesWriter::noteContent()
+{
+    m_contentMark = contentMark(m_path);
 }
 
 QString ValuesWriter::write(const QJsonObject &values) const

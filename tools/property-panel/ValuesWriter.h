@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 class QJsonObject;
@@ -17,8 +18,17 @@ public:
         OneLine, // as after the lines of --live, whose reader takes a line at a time
     };
 
-    /// An empty path stands for standard output.
+    /// An empty path stands for standard output. Notes what the file holds now.
     explicit ValuesWriter(const QString &path, Layout layout = Layout::Indented);
+
+    QString path() const;
+
+    /// True when another program has written the file, or a new one in its place, since this object
+    /// was made or noted the content last. A file that is gone has no foreign content.
+    bool hasForeignContent() const;
+
+    /// Takes what the file holds now for known.
+    void noteContent();
 
     /// Writes, or gives a sentence that says why it is impossible. A file that was there before is
     /// untouched then.
@@ -27,6 +37,7 @@ public:
 private:
     QString m_path;
     Layout m_layout;
+    QByteArray m_contentMark; // of the file as it is known
 };
 
 } // namespace Tessark::PropertyPanel

@@ -52,10 +52,17 @@ bool showsExactly(const SpinBox &spinBox, Number value)
            && spinBox.text() == spinBox.prefix() + textOf(spinBox, value) + spinBox.suffix();
 }
 
+bool hasDecimals(double number, int decimals)
+{
+    const double units = std::pow(10.0, decimals);
+    return std::round(number * units) / units == number;
+}
+
 /// The number that the field would hold after setValue(number).
 double asHeldBy(const QDoubleSpinBox &spinBox, double number)
 {
-    if (number != spinBox.value()) // what it holds is rounded
+    // What it holds is rounded already, unless its arrows made it: those add the step as it is.
+    if (number != spinBox.value() || !hasDecimals(number, spinBox.decimals()))
         number = QString::number(number, 'f', spinBox.decimals()).toDouble();
     return std::clamp(number, spinBox.minimum(), spinBox.maximum());
 }

@@ -81,6 +81,7 @@ public:
 private:
     void step();
     void hostStep();
+    void remember(const QString &event);
     void sampleMemory();
     bool hasFaults();
     void tellFaults();
@@ -156,9 +157,7 @@ void Run::step()
 {
     const QString event = m_user.act();
     ++m_done;
-    m_last.append(event);
-    if (m_last.size() > kRemembered)
-        m_last.removeFirst();
+    remember(event);
     const bool isUnattended = !SoakUser::hasPopup() && QApplication::activeWindow() == &m_window;
     m_host.check(isUnattended);
     if (happens(m_random, 5))
@@ -174,8 +173,15 @@ void Run::hostStep()
         m_host.setSomeValue();
     else
         m_host.describeSomethingAnew();
-    m_last.append(QStringLiteral("(host %1)").arg(choice));
+    remember(QStringLiteral("(host %1)").arg(choice));
     m_host.check(false);
+}
+
+void Run::remember(const QString &event)
+{
+    m_last.append(event);
+    if (m_last.size() > kRemembered)
+        m_last.removeFirst();
 }
 
 /// What is in use when all is as it was at the beginning.

@@ -100,8 +100,16 @@ function(tessark_add_test path)
     target_link_libraries(${name} PRIVATE
         ${arg_LINK} Tessark::Property Qt${TESSARK_QT_MAJOR}::Test)
     add_test(NAME ${path} COMMAND ${name})
-    set_tests_properties(${path} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
-        TIMEOUT 300
+    tessark_set_test_environment(${path} TIMEOUT 300)
+endfunction()
+
+# tessark_set_test_environment(<test> TIMEOUT <seconds>)
+# The offscreen platform; and under AddressSanitizer lost memory fails the test, whatever the
+# environment of the caller says. Nothing is suppressed.
+function(tessark_set_test_environment test)
+    cmake_parse_arguments(arg "" "TIMEOUT" "" ${ARGN})
+    set_tests_properties(${test} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS="
+        TIMEOUT ${arg_TIMEOUT}
     )
 endfunction()

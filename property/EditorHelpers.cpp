@@ -72,8 +72,8 @@ double rounded(double number, int decimals)
 /// The number that the field would hold after setValue(number).
 double asHeldBy(const QDoubleSpinBox &spinBox, double number)
 {
-    if (number != spinBox.value()) // what it holds is rounded
-        number = rounded(number, spinBox.decimals());
+    // Also what it holds may be unrounded: its arrows add their step as it is.
+    number = rounded(number, spinBox.decimals());
     return std::clamp(number, spinBox.minimum(), spinBox.maximum());
 }
 

@@ -103,6 +103,7 @@ private Q_SLOTS:
     void survivesDeletionWhileDragging();
     void wheelMovesTheSliderAlone();
     void keysOnTheSpinBoxAreSteps();
+    void echoRoundsWhatTheArrowsMade();
     void hintsAreReadWhenBuilt();
     void wrongRangesAreBuilt_data();
     void wrongRangesAreBuilt();
@@ -656,6 +657,21 @@ void tst_FloatPropertyEditor::keysOnTheSpinBoxAreSteps()
 
     QCOMPARE(subject.editor->value(), QVariant(1.0));
     QCOMPARE(log.take(), QStringList{QStringLiteral("value")});
+}
+
+/// The arrows of a spin box add the step as it is, and only what it is given is rounded.
+void tst_FloatPropertyEditor::echoRoundsWhatTheArrowsMade()
+{
+    Subject subject;
+    subject.build();
+    subject.editor->setValue(0.4);
+    subject.spinBox->stepUp();
+    const QVariant made = subject.editor->value();
+    QVERIFY(made.toDouble() != 0.41);
+
+    subject.editor->setValue(made);
+
+    QVERIFY(subject.spinBox->value() == 0.41);
 }
 
 void tst_FloatPropertyEditor::hintsAreReadWhenBuilt()

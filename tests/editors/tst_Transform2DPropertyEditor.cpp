@@ -159,6 +159,7 @@ private Q_SLOTS:
     void buttonUnfolds();
     void foldingCopiesScaleX();
     void foldingEqualScalesIsSilent();
+    void foldedScaleMadeByTheArrowsComesBackSilently();
     void foldedValueHasOneScale();
     void unfoldingShowsTheFoldedScale();
     void setScaleExpandedMovesTheButton();
@@ -642,6 +643,20 @@ void tst_Transform2DPropertyEditor::foldingEqualScalesIsSilent()
 
     QCOMPARE(log.take(), QStringList());
     QVERIFY(subject.isHidden(4));
+}
+
+void tst_Transform2DPropertyEditor::foldedScaleMadeByTheArrowsComesBackSilently()
+{
+    Subject subject(Collapsible);
+    subject.build().setValue(kIdentity);
+    subject.box(3)->stepUp(); // by 0.049999, which is more decimals than the field holds
+    const QVariant made = subject.editor->value();
+    SignalLog log(subject.editor.get());
+
+    subject.editor->setValue(made);
+
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(subject.holds({0, 0, 0, 1.05, 1.05}));
 }
 
 void tst_Transform2DPropertyEditor::foldedValueHasOneScale()

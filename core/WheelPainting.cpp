@@ -10,7 +10,6 @@ namespace Tessark::UI {
 
 namespace {
 
-constexpr double kFullTurn = 360;
 constexpr double kDisabledOpacity = 0.35;
 /// The disc is drawn no darker than this, so that its hues can be told apart even at black.
 constexpr double kLeastDiscValue = 0.25;
@@ -21,7 +20,6 @@ constexpr double kMarkerColorRadius = 3;
 constexpr double kBarWidth = 3; // of the white bar across the ring, in a black edge
 constexpr double kBarEdge = 1;
 constexpr double kFocusWidth = 2;
-constexpr double kFocusDistance = 2;
 
 /// Ratios of device pixels to logical pixels that images are made for.
 constexpr double kSmallestRatio = 0.5;

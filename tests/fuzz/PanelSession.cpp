@@ -8,9 +8,13 @@
 #include "fuzz/HostileProperty.h"
 
 #include <property/PropertyUI.h>
+#include <property/editors/ColorPropertyEditor.h>
+#include <property/editors/TexturePropertyEditor.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QScrollArea>
+#include <QTimer>
 
 namespace Fuzz {
 
@@ -48,6 +52,21 @@ bool isRepeatable(const PropertyEditor &editor)
                                       kPropertyTypeImageFormat, kPropertyTypeImage};
     const QString &type = editor.editedProperty()->type;
     return libraryTypes().contains(type) && !s_others.contains(type);
+}
+
+/// The editors, which may go while they are called.
+QVector<QPointer<PropertyEditor>> editorsOf(const CheckedPanel &panel)
+{
+    const QVector<PropertyEditor *> editors = panel.editors();
+    return {editors.cbegin(), editors.cend()};
+}
+
+/// As a modal dialog that the user closes at once.
+void openDialog()
+{
+    QDialog dialog;
+    QTimer::singleShot(0, &dialog, &QDialog::reject);
+    dialog.exec();
 }
 
 } // namespace
@@ -141,7 +160,7 @@ void PanelSession::rebuild()
 
 void PanelSession::actAsHost(FuzzInput &input)
 {
-    switch (input.below(8)) {
+    switch (input.below(9)) {
     case 0:
         refresh();
         break;
@@ -162,6 +181,9 @@ void PanelSession::actAsHost(FuzzInput &input)
         resetRegistry();
         rebuild();
         break;
+    case 7:
+        furnishEditors(input);
+        break;
     default:
         changePanel(input);
     }
@@ -175,6 +197,10 @@ void PanelSession::actInCallback()
         return;
     const Scope inCallback(m_callbacks);
     switch (m_script->below(12)) {
+    case 7:
+        if (m_showing == 0)
+            openDialog();
+        break;
     case 8:
         refresh();
         break;
@@ -239,6 +265,24 @@ void PanelSession::revert(FuzzInput &input)
 {
     if (PropertyEditor *const editor = anyEditor(input))
         editor->revertToDefaultValue();
+}
+
+/// What hosts say to editors of a certain class alone.
+void PanelSession::furnishEditors(FuzzInput &input)
+{
+    const bool isOn = input.flip();
+    for (const QPointer<PropertyEditor> &editor : editorsOf(*m_panel)) {
+        if (auto *const color = qobject_cast<ColorPropertyEditor *>(editor.data()))
+            color->setInputColorAsInteger(isOn);
+        auto *const texture = qobject_cast<TexturePropertyEditor *>(editor.data());
+        if (!texture)
+            continue;
+        texture->setAcceptUrlsDrops(isOn);
+        QVector<TextureChoice> choices(input.below(4));
+        for (TextureChoice &choice : choices)
+            choice.name = input.text();
+        texture->setTextures(choices);
+    }
 }
 
 void PanelSession::changePanel(FuzzInput &input)

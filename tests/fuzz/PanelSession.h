@@ -56,6 +56,7 @@ private:
     void showInEditor(FuzzInput &input);
     void showAgain(FuzzInput &input);
     void revert(FuzzInput &input);
+    void furnishEditors(FuzzInput &input);
     void changePanel(FuzzInput &input);
 
     Tessark::PropertyUI::PropertyEditor *anyEditor(FuzzInput &input) const;

@@ -258,6 +258,7 @@ const BoundSlider *ColorControl::Link::boundSliderOf(const QWidget *widget) cons
     return found == m_sliders.end() ? nullptr : &*found;
 }
 
+// cppcheck-suppress passedByValue ; a callback may end the interaction that holds it
 void ColorControl::Link::edit(QWidget *source, const ColorState wanted)
 {
     const ColorState before = m_state;

@@ -122,6 +122,7 @@ float coverageOfCover(float distance)
 
 int byteOf(float fraction)
 {
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): quick, and never negative
     return int(fraction * 255 + 0.5f);
 }
 
@@ -365,7 +366,7 @@ private:
         void multiply(int row, int begin, int end) const
         {
             constexpr int kBytes = sizeof(QRgb);
-            const auto first = row * stride + begin * kBytes;
+            const auto first = row * stride + qsizetype(begin) * kBytes;
             UI::multiply(from + first, factors.data(), to + first, (end - begin) * kBytes);
         }
     };
@@ -381,6 +382,7 @@ private:
     {
         const double y = row + 0.5 - m_image.height() / 2.0;
         const double square = radius * radius - y * y;
+        // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative
         const int columns = square > 0 ? int(std::sqrt(square) + 0.5) : 0;
         return std::min(columns, m_image.width() / 2);
     }

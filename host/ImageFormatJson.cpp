@@ -24,7 +24,7 @@ const QStringList &formats()
 
 std::optional<QString> formatFromJson(const QJsonValue &json, ConversionError &error)
 {
-    const auto format = textFromJson(json, error);
+    auto format = textFromJson(json, error);
     if (!format || formats().contains(*format))
         return format;
     error.message = QStringLiteral("%1 is not one of %2%3")

@@ -37,7 +37,7 @@ std::optional<QByteArray> readInputFile(const QString &path, QVector<Problem> &p
     if (content.size() > kMaximumInputSize) {
         problems.append(
             fileProblem(QStringLiteral("is too large: at most %1 MiB (%2 bytes) are read")
-                            .arg(kMaximumInputSize / (1024 * 1024))
+                            .arg(kMaximumInputSize / 1024 / 1024)
                             .arg(kMaximumInputSize)));
         return std::nullopt;
     }

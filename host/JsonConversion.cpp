@@ -31,6 +31,7 @@ bool isNumberText(const QString &text)
     static const QRegularExpression s_number(
         QStringLiteral("\\A[+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?\\z"));
     bool ok = false;
+    // cppcheck-suppress ignoredReturnValue ; what counts is whether it is a number
     text.toFloat(&ok);
     return ok && s_number.match(text).hasMatch();
 }

@@ -48,9 +48,10 @@ Property &Property::setHardMaxValue(const QVariant &value)
     return *this;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): hosts are built with this signature
 Property &Property::setHint(const QString &key, QVariant value)
 {
-    hints.insert(key, std::move(value));
+    hints.insert(key, value);
     return *this;
 }
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kSignificantDigits = 6;
 constexpr int kMatrixSize = 3;
+constexpr int kMatrixEntries = kMatrixSize * kMatrixSize;
 
 // Known by name from the moment the library is loaded.
 [[maybe_unused]] const int s_textureChoiceType =
@@ -138,9 +139,9 @@ QGenericMatrix<3, 3, double> QMatrix3x3_fromString(const QString &text)
 {
     const QStringList parts = partsOf(text);
     QGenericMatrix<3, 3, double> matrix; // the identity
-    if (parts.size() != kMatrixSize * kMatrixSize)
+    if (parts.size() != kMatrixEntries)
         return matrix;
-    for (int i = 0; i < kMatrixSize * kMatrixSize; ++i)
+    for (int i = 0; i < kMatrixEntries; ++i)
         matrix(i / kMatrixSize, i % kMatrixSize) = numberIn(parts.at(i));
     return matrix;
 }

@@ -31,6 +31,7 @@ stand_in() {
 # A Debian system where only g++ is installed, used by the user with the given number.
 make_debian() {
     make_tools
+    # shellcheck disable=SC2016 # the stand-in expands it
     stand_in dpkg-query <<<'[ "${!#}" = g++ ] && echo installed'
     stand_in id <<<"echo $1"
     stand_in apt-get <<<'exit 0'
@@ -45,6 +46,7 @@ try() {
 
 # Asks for a set's packages as ./run does, on a system that counts as Debian.
 try_require() {
+    # shellcheck disable=SC2016 # the shell that is tried expands it
     try bash -c 'set -euo pipefail
         root=$1
         . "$root/scripts/packages.sh"
@@ -82,11 +84,13 @@ try "$root/check"
 expect_status "check on another system" 2
 expect_text "check on another system" output qtbase5-dev
 expect_text "check on another system" output pkg-config
+expect_text "check on another system" output clang-tidy-14
 expect_no_text "check on another system" output gcovr
 
 try "$root/check" --quick
 expect_status "quick check on another system" 2
 expect_no_text "quick check on another system" output qtbase5-dev
+expect_no_text "quick check on another system" output clang-tidy-14
 
 try "$root/check" --nonsense
 expect_status "unknown option" 2

@@ -4,45 +4,36 @@
 import argparse
 import os
 import re
-import subprocess
 import sys
 import unittest
 from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
+from exported_symbols import OUR_SYMBOL, exported_symbols, our_symbols, output_of
 
 LIBRARIES = {"core": "core", "property": "property", "propertyhost": "host"}  # name to folder
 
 # What the linker and the C run-time add to every shared library.
 LINKER_SYMBOLS = {"_init", "_fini", "_edata", "_end", "__bss_start"}
 
-# A mangled name inside namespace Tessark, be it a function, a table, a type or an adjustor of one.
-OUR_SYMBOL = re.compile(r"^_Z(T[VTIS]|Th\d*n?\d+_|Tv\d*n?\d+_n?\d+_|Tc.*_|GV|GR)?N[rVK]*[RO]?7Tessark")
-
 # Inline code of the standard library and of Qt that a compiler puts into every library using it;
 # such symbols are weak, and the dynamic linker keeps one of them.
 FOREIGN_INLINE_CODE = re.compile(r"\b(std::|__gnu_cxx::|Qt?[A-Z]\w*|q[A-Z]\w*)")
 
+# The first name after our namespaces, be it of a class, a function or a variable.
+EXPORTED_NAME = re.compile(r"\bTessark::(?:\w+::)?(\w+)")
+
+# What private headers declare for our own tests and benchmarks.
+FOR_OUR_TESTS = {"kitCounters"}
+
 EXPORTED_CLASS = re.compile(r"^\s*class\s+TESSARK_\w+_EXPORT\s+(\w+)", re.MULTILINE)
-
-
-def output_of(*command):
-    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
 def dynamic_entries(path, tag):
     """Values of a library's or program's dynamic section, such as SONAME."""
     text = output_of("readelf", "--dynamic", "--wide", str(path))
     return re.findall(rf"\({tag}\).*\[(.*)\]", text)
-
-
-def exported_symbols(path):
-    """(kind, mangled name, readable name) of what the library offers to others."""
-    command = ["nm", "--dynamic", "--defined-only", "--portability", str(path)]
-    lines = [line.split() for line in output_of(*command).splitlines()]
-    names = "\n".join(line[0] for line in lines)
-    readable = subprocess.run(
-        ["c++filt"], input=names, check=True, capture_output=True, text=True
-    ).stdout.splitlines()
-    return [(line[1], line[0], text) for line, text in zip(lines, readable)]
 
 
 class InstalledHeaders(unittest.TestCase):
@@ -85,6 +76,14 @@ class InstalledLibraries(unittest.TestCase):
                 with self.subTest(library=name, symbol=readable, kind=kind):
                     self.assertIn(kind, "WVu", "defined by us, but outside namespace Tessark")
                     self.assertRegex(readable, FOREIGN_INLINE_CODE)
+
+    def test_export_nothing_that_no_header_declares(self):
+        for name, folder in LIBRARIES.items():
+            with self.subTest(library=name):
+                headers = "".join(p.read_text() for p in (include_root() / folder).rglob("*.h"))
+                symbols = [symbol.readable for symbol in our_symbols(library(name))]
+                exported = {EXPORTED_NAME.search(symbol).group(1) for symbol in symbols}
+                self.assertEqual(exported - set(re.findall(r"\w+", headers)) - FOR_OUR_TESTS, set())
 
     def test_export_every_class_that_a_header_says_so_of(self):
         for name, folder in LIBRARIES.items():

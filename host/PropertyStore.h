@@ -52,7 +52,8 @@ public:
 
     /// Sets all values to the defaults of the list and forgets everything else. A property without
     /// default gets its type's own (0, false, an empty text, black, the first choice, the identity,
-    /// 1 x 1 for sizes, PNG, no picture), brought into its range. Silent.
+    /// 1 x 1 for sizes, PNG, no picture), brought into its range; an "int/enum" with nothing to choose
+    /// from gets no value. Silent.
     void reset(const PropertyList &list);
 
     /// Takes values from a JSON object of name to value; names that it lacks keep their values.

@@ -327,6 +327,15 @@ bool needsJsonToCompare(ValueKind kind)
            || kind == ValueKind::Texture;
 }
 
+/// The value of the first choice, or an invalid one where there is nothing to choose from.
+QVariant firstChoice(const Property &property)
+{
+    if (hasChoiceValues(property))
+        return hintList(property, kPropertyHintValues).value(0);
+    const bool hasChoices = !hintList(property, kPropertyHintDisplayValues).isEmpty();
+    return hasChoices ? QVariant(0) : QVariant();
+}
+
 QVariant defaultOfKind(const Property &property, ValueKind kind)
 {
     switch (kind) {
@@ -342,8 +351,7 @@ QVariant defaultOfKind(const Property &property, ValueKind kind)
     case ValueKind::Text:
         return QStringLiteral("");
     case ValueKind::Choice:
-        return hasChoiceValues(property) ? hintList(property, kPropertyHintValues).value(0)
-                                         : QVariant(0);
+        return firstChoice(property);
     case ValueKind::Vector2:
         return QVector2D();
     case ValueKind::Vector3:

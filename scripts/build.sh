@@ -9,14 +9,19 @@ discard_moved_build() {
     grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache" || rm -rf "$1"
 }
 
-# build_and_test PRESET, from the root of the tree. The last lines are ctest's.
-build_and_test() {
-    local preset=$1 jobs
-    jobs=$(nproc)
+# build_preset PRESET, from the root of the tree.
+build_preset() {
+    local preset=$1
     discard_moved_build "$root/build/$preset"
     echo "== $preset: build"
     cmake --preset "$preset" >/dev/null
-    cmake --build --preset "$preset" -j "$jobs"
+    cmake --build --preset "$preset" -j "$(nproc)"
+}
+
+# build_and_test PRESET, from the root of the tree. The last lines are ctest's.
+build_and_test() {
+    local preset=$1
+    build_preset "$preset"
     echo "== $preset: test"
-    ctest --test-dir "build/$preset" --no-tests=error --output-on-failure -j "$jobs"
+    ctest --test-dir "build/$preset" --no-tests=error --output-on-failure -j "$(nproc)"
 }

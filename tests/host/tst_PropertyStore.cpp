@@ -50,6 +50,7 @@ private Q_SLOTS:
     void startsFromDefaults();
     void absentDefaultIsTheTypesOwn_data();
     void absentDefaultIsTheTypesOwn();
+    void absentDefaultIsTheFirstChoice();
     void absentDefaultLiesInRange();
     void resetForgetsEverything();
     void readingIsSilent();
@@ -126,7 +127,6 @@ void tst_PropertyStore::absentDefaultIsTheTypesOwn_data()
     row(kPropertyTypeVec2, "[0,0]");
     row(kPropertyTypeVec3, "[0,0,0]");
     row(kPropertyTypeVec4, "[0,0,0,0]");
-    row(kPropertyTypeEnumeration, "0");
     row(kPropertyTypeColor, "[0,0,0,1]");
     row(kPropertyTypeColorRGB, "[0,0,0]");
     row(kPropertyTypeString, R"("")");
@@ -157,6 +157,19 @@ void tst_PropertyStore::absentDefaultIsTheTypesOwn()
     m_store->reset(list);
 
     QCOMPARE(compact(m_store->toJson(list)), R"({"a":)" + json + "}");
+}
+
+void tst_PropertyStore::absentDefaultIsTheFirstChoice()
+{
+    const QStringList texts{QStringLiteral("One"), QStringLiteral("Two")};
+    PropertyList list;
+    append(list, "choice", kPropertyTypeEnumeration).setHint(kPropertyHintDisplayValues, texts);
+    append(list, "nothing", kPropertyTypeEnumeration);
+
+    m_store->reset(list);
+
+    // Where there is nothing to choose from, no value could be read again.
+    QCOMPARE(compact(m_store->toJson(list)), QByteArray(R"({"choice":0})"));
 }
 
 void tst_PropertyStore::absentDefaultLiesInRange()

@@ -56,8 +56,12 @@ ControlKeeper::ControlKeeper(QWidget *panel)
 ControlKeeper::~ControlKeeper()
 {
     s_waiting.removeOne(this);
-    for (const QPointer<QWidget> &control : std::as_const(m_kept))
+    for (const QPointer<QWidget> &control : std::as_const(m_kept)) {
+        if (!control)
+            continue;
+        control->disconnect(this); // its end is meant now
         delete control;
+    }
 }
 
 void ControlKeeper::keep(QWidget *control)

@@ -50,6 +50,12 @@ void setQuietly(Control *control, Setter setter, Args &&...args)
     std::invoke(setter, control, std::forward<Args>(args)...);
 }
 
+template <typename Control, typename Setter, typename... Args>
+void setQuietly(const QPointer<Control> &control, Setter setter, Args &&...args)
+{
+    setQuietly(control.data(), setter, std::forward<Args>(args)...);
+}
+
 // The same for the controls that a set costs most, since they format and paint anew even where nothing
 // changes: one that already shows exactly this, half-typed text included, is left alone.
 void showQuietly(QSpinBox *spinBox, int value);

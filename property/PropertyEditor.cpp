@@ -1,9 +1,13 @@
 #include "property/PropertyEditor.h"
 
+#include "property/ControlKeeper_p.h"
+
 #include <QAbstractSpinBox>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QSlider>
+
+#include <utility>
 
 namespace Tessark::PropertyUI {
 
@@ -85,6 +89,17 @@ void PropertyEditor::revertToDefaultValue()
     setValue(m_property->defaultValue);
     if (self)
         Q_EMIT valueChanged();
+}
+
+void PropertyEditor::keepControls()
+{
+    if (auto *const panel = qobject_cast<QWidget *>(parent()))
+        ControlKeeper::watch(panel, m_widget);
+}
+
+bool PropertyEditor::buildsNow()
+{
+    return !std::exchange(m_isBuilt, true);
 }
 
 } // namespace Tessark::PropertyUI

@@ -3,6 +3,7 @@
 #include "property/Property.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QVariant>
 #include <QVector>
 
@@ -25,7 +26,8 @@ class PropertyEditorContext;
  * the run ends (slider released, focus lost, Return). Programmatic changes are silent.
  *
  * The editor belongs to its QObject parent (the panel), its widget to the widget tree; neither
- * deletes the other.
+ * deletes the other, and a host may delete either. An editor whose widget was deleted is as one that
+ * has none: it shows nothing and value() is the type's default.
  */
 class TESSARK_PROPERTY_EXPORT PropertyEditor : public QObject
 {
@@ -48,7 +50,8 @@ public:
     virtual void setValues(const QVector<QVariant> &values);
 
     /// Builds the widget on the first call, without parent, and returns the same one afterwards,
-    /// whatever the context. The caller places it. Null means an editor without widget.
+    /// whatever the context. The caller places it. Null means an editor without widget, or that the
+    /// widget was deleted; it is not built again.
     virtual QWidget *widget(PropertyEditorContext *context);
 
     /// The host changed hints or range of the property: reads again what can be changed late.
@@ -75,8 +78,20 @@ Q_SIGNALS:
     void endInteractiveChange();
 
 protected:
-    Property *const m_property;  // not owned
-    QWidget *m_widget = nullptr; // set by the subclass when built; owned by the widget tree
+    /// Lets a host delete panel, window or widget in what it is told next: the controls stay until
+    /// control is back in the event loop. The panel does it for the three signals.
+    void keepControls();
+
+    /// Whether widget() is to build the widget now: true the first time, never again.
+    bool buildsNow();
+
+    Property *const m_property; // not owned
+    QPointer<QWidget> m_widget; // set by the subclass when built; owned by the widget tree
+
+private:
+    friend class PropertyEditorPanel;
+
+    bool m_isBuilt = false;
 };
 
 } // namespace Tessark::PropertyUI

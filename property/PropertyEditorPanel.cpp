@@ -135,7 +135,7 @@ private:
         connect(editor, &PropertyEditor::startInteractiveChange, panel,
                 [panel, editor] { panel->beginRun(editor); });
         connect(editor, &PropertyEditor::endInteractiveChange, panel,
-                &PropertyEditorPanel::endInteractiveChange);
+                [panel, editor] { panel->endRun(editor); });
     }
 
     PropertyEditorPanel *m_panel;
@@ -267,8 +267,11 @@ void PropertyEditorPanel::endInteractiveChange()
     m_interactiveChangeSeen = false;
 }
 
+// The host is told after the panel, and may delete what it likes.
+
 void PropertyEditorPanel::forwardEdit(PropertyEditor *editor)
 {
+    editor->keepControls();
     const QPointer<PropertyEditorPanel> self(this);
     const QPointer<PropertyEditor> editorAlive(editor);
     Property *const property = editor->editedProperty();
@@ -289,8 +292,15 @@ void PropertyEditorPanel::forwardEdit(PropertyEditor *editor)
 
 void PropertyEditorPanel::beginRun(PropertyEditor *editor)
 {
+    editor->keepControls();
     m_interactiveEditor = editor;
     m_interactiveChangeSeen = false;
+}
+
+void PropertyEditorPanel::endRun(PropertyEditor *editor)
+{
+    editor->keepControls();
+    endInteractiveChange();
 }
 
 } // namespace Tessark::PropertyUI

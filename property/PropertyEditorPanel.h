@@ -87,6 +87,7 @@ private:
 
     void forwardEdit(PropertyEditor *editor);
     void beginRun(PropertyEditor *editor);
+    void endRun(PropertyEditor *editor);
     PropertyEditor *editorAt(const QPoint &position) const;
 
     QVector<Property *> m_properties;              // not owned

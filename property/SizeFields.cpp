@@ -3,11 +3,6 @@
 #include "property/EditorHelpers_p.h"
 #include "property/PropertyEditor.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QPointer>
-#include <QSpinBox>
-
 #include <limits>
 
 namespace Tessark::PropertyUI {
@@ -56,6 +51,8 @@ void SizeFields::show(const QSize &size)
 
 QSize SizeFields::size() const
 {
+    if (!m_spinBoxes[Width] || !m_spinBoxes[Height])
+        return {};
     return {m_spinBoxes[Width]->value(), m_spinBoxes[Height]->value()};
 }
 
@@ -66,6 +63,8 @@ void SizeFields::keepAspect(const QObject *changed, int value)
     const int width = m_aspectRatio.width();
     const int height = m_aspectRatio.height();
     QSpinBox *const other = m_spinBoxes[changed == m_spinBoxes[Width] ? Height : Width];
+    if (!other)
+        return;
     const int side = other == m_spinBoxes[Height]
                          ? scaledSide(value, height, width, other->value())
                          : scaledSide(value, width, height, other->value());
@@ -74,8 +73,8 @@ void SizeFields::keepAspect(const QObject *changed, int value)
 
 void SizeFields::setEnabled(bool enabled)
 {
-    const QPointer<QWidget> controls[] = {m_constrainCheck, m_spinBoxes[Width],
-                                          m_spinBoxes[Height]};
+    const QPointer<QWidget> controls[] = {m_constrainCheck.data(), m_spinBoxes[Width].data(),
+                                          m_spinBoxes[Height].data()};
     for (const QPointer<QWidget> &control : controls) {
         if (control)
             control->setEnabled(enabled);

@@ -1,13 +1,14 @@
 #pragma once
 
+#include <QCheckBox>
+#include <QLabel>
+#include <QPointer>
 #include <QSize>
+#include <QSpinBox>
 
 #include <array>
 
-class QCheckBox;
-class QLabel;
 class QObject;
-class QSpinBox;
 class QString;
 
 namespace Tessark::PropertyUI {
@@ -16,7 +17,7 @@ class PropertyEditor;
 
 /// The controls that the editors of sizes share: entry fields of width and height with a label
 /// each and, unless the "aspect_ratio" hint has a width of 0, a check box that keeps their ratio.
-/// They have no parent at first and belong to the widget they are placed in.
+/// They have no parent at first and belong to the widget they are placed in; null once they are gone.
 class SizeFields final
 {
 public:
@@ -32,7 +33,7 @@ public:
     QCheckBox *constrainCheck() const { return m_constrainCheck; } // null when left out
 
     void show(const QSize &size); // silently
-    QSize size() const;
+    QSize size() const;           // invalid once the fields are gone
 
     /// Sets the other number, silently, after changed took value; with the check box only. Any
     /// object but the width's field counts as the height's.
@@ -43,10 +44,10 @@ public:
     void setEnabled(bool enabled);
 
 private:
-    std::array<QLabel *, 2> m_labels;
-    std::array<QSpinBox *, 2> m_spinBoxes;
+    std::array<QPointer<QLabel>, 2> m_labels;
+    std::array<QPointer<QSpinBox>, 2> m_spinBoxes;
     QSize m_aspectRatio;
-    QCheckBox *m_constrainCheck = nullptr;
+    QPointer<QCheckBox> m_constrainCheck;
 };
 
 } // namespace Tessark::PropertyUI

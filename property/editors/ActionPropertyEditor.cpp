@@ -25,7 +25,7 @@ QVariant ActionPropertyEditor::value() const
 
 QWidget *ActionPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_button = new QPushButton(m_property->label);
         m_widget = m_button;
         connect(m_button, &QPushButton::clicked, this, &PropertyEditor::valueChanged);

@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QPushButton;
 
 namespace Tessark::PropertyUI {
@@ -26,7 +28,7 @@ public:
     QWidget *widget(PropertyEditorContext *context) override;
 
 private:
-    QPushButton *m_button = nullptr; // same object as m_widget
+    QPointer<QPushButton> m_button; // same object as m_widget
 };
 
 } // namespace Tessark::PropertyUI

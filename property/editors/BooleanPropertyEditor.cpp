@@ -30,7 +30,7 @@ QVariant BooleanPropertyEditor::value() const
 
 QWidget *BooleanPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         const bool hideLabel = hintOr(*m_property, kPropertyHintBoolHideLabel, false);
         m_checkBox = new QCheckBox(hideLabel ? QString() : m_property->label);
         m_widget = m_checkBox;

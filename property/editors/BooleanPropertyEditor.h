@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QCheckBox;
 
 namespace Tessark::PropertyUI {
@@ -29,7 +31,7 @@ public:
     void propertyChanged() override;
 
 private:
-    QCheckBox *m_checkBox = nullptr; // same object as m_widget
+    QPointer<QCheckBox> m_checkBox; // same object as m_widget
 };
 
 } // namespace Tessark::PropertyUI

@@ -85,8 +85,10 @@ QVariant ColorPropertyEditor::value() const
 
 QWidget *ColorPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_colorControl = new UI::ColorControl(this, this);
+        // A host's slot of this signal runs before the client, which is the editor, is called.
+        connect(m_colorControl, &UI::ColorControl::changed, this, [this] { keepControls(); });
         m_widget = new QWidget;
         auto *const layout = new QGridLayout(m_widget);
         makeWheel(layout);

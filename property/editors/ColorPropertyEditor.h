@@ -74,7 +74,7 @@ private:
     void showInSpinBoxes();
 
     // The control is this editor's child; the widget tree, which owns the others, may die before.
-    UI::ColorControl *m_colorControl = nullptr;
+    QPointer<UI::ColorControl> m_colorControl;
     QPointer<UI::ColorWheel> m_colorWheel;
     std::array<QPointer<UI::Slider>, kChannelCount> m_channelSliders;
     std::array<QPointer<DoubleSpinBox>, kChannelCount> m_spinBoxes;

@@ -59,11 +59,12 @@ QVariant EnumerationPropertyEditor::value() const
 
 QWidget *EnumerationPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         const QString kind = m_property->hint(kPropertyHintWidget).toString();
         m_widget = kind == kWidgetTypeRadioButtons ? makeRadioButtons() : makeComboBox();
     }
-    m_widget->ensurePolished();
+    if (m_widget)
+        m_widget->ensurePolished();
     return m_widget;
 }
 

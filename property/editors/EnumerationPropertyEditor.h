@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QButtonGroup;
 class QComboBox;
 
@@ -39,8 +41,8 @@ private:
     QWidget *makeRadioButtons();
     int currentIndex() const;
 
-    QComboBox *m_comboBox = nullptr;       // same object as m_widget; or
-    QButtonGroup *m_buttonGroup = nullptr; // child of the editor, in radio mode
+    QPointer<QComboBox> m_comboBox;       // same object as m_widget; or
+    QPointer<QButtonGroup> m_buttonGroup; // child of the editor, in radio mode
 };
 
 } // namespace Tessark::PropertyUI

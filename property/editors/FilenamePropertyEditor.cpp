@@ -32,7 +32,7 @@ QVariant FilenamePropertyEditor::value() const
 
 QWidget *FilenamePropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         const bool nativeDialogs = hintOr(*m_property, kPropertyHintUseNativeDialogs, false);
         // Deliberate: despite the type's name, all of these properties hold directories.
         m_filenameField = new UI::FilenameField(nullptr, kDirectoryOnlyMode, nativeDialogs);

@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 namespace Tessark::UI {
 class FilenameField;
 }
@@ -31,7 +33,7 @@ public:
     QWidget *widget(PropertyEditorContext *context) override;
 
 private:
-    UI::FilenameField *m_filenameField = nullptr; // same object as m_widget
+    QPointer<UI::FilenameField> m_filenameField; // same object as m_widget
 };
 
 } // namespace Tessark::PropertyUI

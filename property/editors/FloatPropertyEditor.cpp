@@ -69,7 +69,7 @@ QVariant FloatPropertyEditor::value() const
 
 QWidget *FloatPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         const QVariant scale = m_property->hint(kPropertyHintDisplayScale);
         if (!scale.isNull())
             m_displayScale = scale.toDouble();
@@ -122,7 +122,7 @@ QAbstractSlider *FloatPropertyEditor::makeLinearSlider() const
     return slider;
 }
 
-QAbstractSlider *FloatPropertyEditor::makeLogarithmicSlider() const
+QAbstractSlider *FloatPropertyEditor::makeLogarithmicSlider()
 {
     double low = m_property->minValue.toDouble() * m_displayScale;
     const double high = m_property->maxValue.toDouble() * m_displayScale;
@@ -132,6 +132,8 @@ QAbstractSlider *FloatPropertyEditor::makeLogarithmicSlider() const
     const int minimumExponent = sliderPosition(std::log10(low));
     const int maximumExponent = sliderPosition(std::log10(high));
     auto *const slider = new UI::LogSlider(Qt::Horizontal);
+    // A host's slot of this signal runs before the editor's own are called.
+    connect(slider, &UI::LogSlider::realValueChanged, this, [this] { keepControls(); });
     slider->setRealRange(minimumExponent, maximumExponent, kLogarithmicPositions);
     slider->setSingleStep(logarithmicStep(2, minimumExponent, maximumExponent));
     slider->setPageStep(logarithmicStep(20, minimumExponent, maximumExponent));

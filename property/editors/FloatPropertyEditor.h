@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QAbstractSlider;
 
 namespace Tessark::PropertyUI {
@@ -50,12 +52,12 @@ private Q_SLOTS:
 private:
     void setSliderQuietly(double value);
     QAbstractSlider *makeLinearSlider() const;
-    QAbstractSlider *makeLogarithmicSlider() const;
+    QAbstractSlider *makeLogarithmicSlider();
     DoubleSpinBox *makeSpinBox();
     double toStored(double displayed) const;
 
-    QAbstractSlider *m_slider = nullptr; // a QSlider or a UI::LogSlider
-    DoubleSpinBox *m_spinBox = nullptr;
+    QPointer<QAbstractSlider> m_slider; // a QSlider or a UI::LogSlider
+    QPointer<DoubleSpinBox> m_spinBox;
     bool m_updatingFromSpinBox = false; // while spinBoxChanged() runs
     double m_displayScale = 1.0;        // displayed units per stored unit
 };

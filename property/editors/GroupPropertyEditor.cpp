@@ -27,7 +27,7 @@ QVariant GroupPropertyEditor::value() const
 
 QWidget *GroupPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget)
+    if (buildsNow())
         m_widget = m_property->type == kPropertyTypeBeginGroup ? makeBegin() : makeEnd();
     return m_widget;
 }

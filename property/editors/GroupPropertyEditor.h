@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QCheckBox;
 
 namespace Tessark::PropertyUI {
@@ -36,7 +38,7 @@ private:
     QWidget *makeBegin();
     static QWidget *makeEnd();
 
-    QCheckBox *m_checkBox = nullptr; // same object as m_widget; null for an "end_group"
+    QPointer<QCheckBox> m_checkBox; // same object as m_widget; null for an "end_group"
 };
 
 } // namespace Tessark::PropertyUI

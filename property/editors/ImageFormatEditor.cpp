@@ -57,16 +57,16 @@ void ImageFormatEditor::setValue(const QVariant &value)
 QVariant ImageFormatEditor::value() const
 {
     ImageFormatDesc desc;
-    if (m_widget) {
+    if (m_widget)
         desc.format = m_formats.value(m_buttonGroup->checkedId()); // empty when none is checked
+    if (m_qualitySpinBox)
         desc.compressionRate = m_qualitySpinBox->value();
-    }
     return QVariant::fromValue(desc);
 }
 
 QWidget *ImageFormatEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_widget = new QWidget;
         auto *const layout = new QVBoxLayout(m_widget); // with the style's margins
         layout->addLayout(makeFormatLine());

@@ -4,6 +4,7 @@
 #include "property/PropertyExport.h"
 
 #include <QMetaType>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -63,9 +64,9 @@ private:
 
     const QStringList m_formats;                 // the index is the id of the format's button
     std::unique_ptr<QButtonGroup> m_buttonGroup; // without parent
-    QWidget *m_qualityRow = nullptr;             // hidden by any format but "jpeg"
-    QSlider *m_qualitySlider = nullptr;
-    QSpinBox *m_qualitySpinBox = nullptr;
+    QPointer<QWidget> m_qualityRow;              // hidden by any format but "jpeg"
+    QPointer<QSlider> m_qualitySlider;
+    QPointer<QSpinBox> m_qualitySpinBox;
 };
 
 } // namespace Tessark::PropertyUI

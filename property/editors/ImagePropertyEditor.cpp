@@ -48,7 +48,7 @@ QVariant ImagePropertyEditor::value() const
 
 QWidget *ImagePropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_label = new QLabel;
         m_widget = m_label;
         applyAlignmentHint(m_label, *m_property);

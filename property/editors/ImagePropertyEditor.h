@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QLabel;
 
 namespace Tessark::PropertyUI {
@@ -30,7 +32,7 @@ public:
     QWidget *widget(PropertyEditorContext *context) override;
 
 private:
-    QLabel *m_label = nullptr; // same object as m_widget
+    QPointer<QLabel> m_label; // same object as m_widget
 };
 
 } // namespace Tessark::PropertyUI

@@ -34,7 +34,7 @@ QVariant IntegerPropertyEditor::value() const
 
 QWidget *IntegerPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_slider = new QSlider(Qt::Horizontal);
         m_spinBox = new QSpinBox;
         propertyChanged();

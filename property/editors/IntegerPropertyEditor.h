@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QSlider;
 class QSpinBox;
 
@@ -37,8 +39,8 @@ private Q_SLOTS:
     void spinBoxChanged(int value);
 
 private:
-    QSlider *m_slider = nullptr;
-    QSpinBox *m_spinBox = nullptr;
+    QPointer<QSlider> m_slider;
+    QPointer<QSpinBox> m_spinBox;
 };
 
 } // namespace Tessark::PropertyUI

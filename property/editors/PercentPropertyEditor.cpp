@@ -54,7 +54,7 @@ QVariant PercentPropertyEditor::value() const
 
 QWidget *PercentPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         makeSlider();
         makeSpinBox();
         m_widget = makeRow({m_slider, m_spinBox});

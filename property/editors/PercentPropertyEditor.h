@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QDoubleSpinBox;
 class QSlider;
 
@@ -40,9 +42,9 @@ private:
     void makeSlider();
     void makeSpinBox();
 
-    QSlider *m_slider = nullptr;
-    QDoubleSpinBox *m_spinBox = nullptr; // a plain one, which always shows its two decimals
-    bool m_updatingFromSpinBox = false;  // while spinBoxChanged() runs
+    QPointer<QSlider> m_slider;
+    QPointer<QDoubleSpinBox> m_spinBox; // a plain one, which always shows its two decimals
+    bool m_updatingFromSpinBox = false; // while spinBoxChanged() runs
 };
 
 } // namespace Tessark::PropertyUI

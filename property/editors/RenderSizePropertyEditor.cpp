@@ -47,9 +47,10 @@ QVariant RenderSizePropertyEditor::value() const
 
 QWidget *RenderSizePropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget)
+    if (buildsNow())
         m_widget = makeWidget();
-    m_widget->ensurePolished();
+    if (m_widget)
+        m_widget->ensurePolished();
     return m_widget;
 }
 

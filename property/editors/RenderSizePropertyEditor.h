@@ -2,6 +2,7 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
 #include <QSize>
 
 #include <memory>
@@ -50,7 +51,7 @@ private:
 
     std::unique_ptr<SizeFields> m_fields; // null until the widget is built
     QSize m_fullSize;
-    QComboBox *m_comboBox = nullptr; // null unless there is a full size
+    QPointer<QComboBox> m_comboBox; // null unless there is a full size
 };
 
 } // namespace Tessark::PropertyUI

@@ -25,7 +25,7 @@ QVariant SeparatorPropertyEditor::value() const
 
 QWidget *SeparatorPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         auto *const line = new QFrame;
         line->setFrameStyle(QFrame::HLine);
         m_widget = line;

@@ -35,7 +35,7 @@ QVariant SizePropertyEditor::value() const
 
 QWidget *SizePropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_fields = std::make_unique<SizeFields>(this, tr("Constrain Aspect"));
         m_widget = new QWidget;
         auto *const layout = new QHBoxLayout(m_widget);

@@ -31,7 +31,7 @@ QVariant StaticTextPropertyEditor::value() const
 
 QWidget *StaticTextPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_label = new QLabel;
         m_widget = m_label;
         applyAlignmentHint(m_label, *m_property);

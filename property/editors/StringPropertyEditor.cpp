@@ -31,7 +31,7 @@ QVariant StringPropertyEditor::value() const
 
 QWidget *StringPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_lineEdit = new QLineEdit;
         m_widget = m_lineEdit;
         propertyChanged();

@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QLineEdit;
 
 namespace Tessark::PropertyUI {
@@ -29,7 +31,7 @@ public:
     void propertyChanged() override;
 
 private:
-    QLineEdit *m_lineEdit = nullptr; // same object as m_widget
+    QPointer<QLineEdit> m_lineEdit; // same object as m_widget
 };
 
 } // namespace Tessark::PropertyUI

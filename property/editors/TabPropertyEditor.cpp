@@ -26,7 +26,7 @@ QVariant TabPropertyEditor::value() const
 
 QWidget *TabPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         if (m_property->type == kPropertyTypeBeginTabGroup)
             m_widget = makeTabWidget();
         else if (m_property->type == kPropertyTypeTab)

@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QTabWidget;
 
 namespace Tessark::PropertyUI {
@@ -36,7 +38,7 @@ public:
 private:
     QWidget *makeTabWidget();
 
-    QTabWidget *m_tabWidget = nullptr; // same object as m_widget; for a "begin_tab_group" only
+    QPointer<QTabWidget> m_tabWidget; // same object as m_widget; for a "begin_tab_group" only
 };
 
 } // namespace Tessark::PropertyUI

@@ -39,7 +39,7 @@ QVariant TextPropertyEditor::value() const
 
 QWidget *TextPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         // No signal is connected, on purpose: see the class comment.
         m_textEdit = new QPlainTextEdit;
         m_widget = m_textEdit;

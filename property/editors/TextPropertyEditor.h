@@ -2,6 +2,8 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
+
 class QPlainTextEdit;
 
 namespace Tessark::PropertyUI {
@@ -27,7 +29,7 @@ public:
     QWidget *widget(PropertyEditorContext *context) override;
 
 private:
-    QPlainTextEdit *m_textEdit = nullptr; // same object as m_widget
+    QPointer<QPlainTextEdit> m_textEdit; // same object as m_widget
 };
 
 } // namespace Tessark::PropertyUI

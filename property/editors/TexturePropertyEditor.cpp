@@ -48,7 +48,7 @@ QVariant TexturePropertyEditor::value() const
 
 QWidget *TexturePropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         m_list = new UI::DropAcceptingListWidget;
         m_widget = m_list;
         m_list->setFixedHeight(kListHeight);

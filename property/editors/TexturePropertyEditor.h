@@ -3,6 +3,7 @@
 #include "property/PropertyEditor.h"
 #include "property/TextureChoice.h"
 
+#include <QPointer>
 #include <QStringList>
 
 namespace Tessark::UI {
@@ -63,8 +64,8 @@ private:
     bool showRow(const QString &name);
 
     QVector<TextureChoice> m_textures;
-    UI::DropAcceptingListWidget *m_list = nullptr; // same object as m_widget
-    int m_currentIndex = -1;                       // of the value in m_textures
+    QPointer<UI::DropAcceptingListWidget> m_list; // same object as m_widget
+    int m_currentIndex = -1;                      // of the value in m_textures
 };
 
 } // namespace Tessark::PropertyUI

@@ -124,23 +124,23 @@ QVariant Transform2DPropertyEditor::value() const
 {
     registerMatrixName();
     Transform2D transform;
-    if (m_widget && m_showPosition) {
-        transform.offsetX = m_spinBoxes[0]->value();
-        transform.offsetY = m_spinBoxes[1]->value();
+    if (m_showPosition) {
+        transform.offsetX = numberIn(0, transform.offsetX);
+        transform.offsetY = numberIn(1, transform.offsetY);
     }
-    if (m_widget && m_showRotation)
-        transform.rotation = m_spinBoxes[rotationRow()]->value();
-    if (m_widget && m_showScale) {
+    if (m_showRotation)
+        transform.rotation = numberIn(rotationRow(), transform.rotation);
+    if (m_showScale) {
         const bool hasScaleY = !m_uniformScale && isScaleExpanded();
-        transform.scaleX = m_spinBoxes[scaleXRow()]->value();
-        transform.scaleY = m_spinBoxes[hasScaleY ? scaleYRow() : scaleXRow()]->value();
+        transform.scaleX = numberIn(scaleXRow(), transform.scaleX);
+        transform.scaleY = numberIn(hasScaleY ? scaleYRow() : scaleXRow(), transform.scaleY);
     }
     return QVariant::fromValue(matrixOf(transform));
 }
 
 QWidget *Transform2DPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         readHints();
         makeRows();
         m_widget = makeContainer();
@@ -159,14 +159,16 @@ void Transform2DPropertyEditor::setScaleExpanded(bool expanded)
     if (!hasCollapsibleScale())
         return;
     const QPointer<Transform2DPropertyEditor> self(this);
+    if (!showScaleY(expanded))
+        return;
+    const QPointer<QDoubleSpinBox> scaleY(m_spinBoxes[scaleYRow()]);
     const QPointer<UI::DisclosureButton> button(m_disclosureButton);
-    showScaleY(expanded);
-    if (!expanded && m_spinBoxes[scaleYRow()]->value() != m_spinBoxes[scaleXRow()]->value()) {
+    if (!expanded && scaleY->value() != numberIn(scaleXRow(), scaleY->value())) {
         copyScaleXToY();
         Q_EMIT valueChanged();
     }
     // A slot may have unfolded the row again; then this call is out of date.
-    if (self && button && m_spinBoxes[scaleYRow()]->isHidden() != expanded
+    if (self && button && scaleY && scaleY->isHidden() != expanded
         && button->isChecked() != expanded)
         setQuietly(button.data(), &UI::DisclosureButton::setChecked, expanded);
 }
@@ -175,7 +177,9 @@ void Transform2DPropertyEditor::spinBoxChanged(double)
 {
     whileFlagged(this, m_updating, [this] {
         for (std::size_t row = 0; row < m_rowCount; ++row) {
-            setQuietly(m_sliders[row], &QSlider::setValue, positionOf(m_spinBoxes[row]->value()));
+            if (m_spinBoxes[row])
+                setQuietly(m_sliders[row], &QSlider::setValue,
+                           positionOf(m_spinBoxes[row]->value()));
         }
         Q_EMIT valueChanged();
     });
@@ -187,7 +191,9 @@ void Transform2DPropertyEditor::sliderChanged(int)
 {
     whileFlagged(this, m_updating, [this] {
         for (std::size_t row = 0; row < m_rowCount; ++row) {
-            showQuietly(m_spinBoxes[row], m_sliders[row]->value() / double(kSliderUnitsPerUnit));
+            if (m_sliders[row])
+                showQuietly(m_spinBoxes[row],
+                            m_sliders[row]->value() / double(kSliderUnitsPerUnit));
         }
         Q_EMIT valueChanged();
     });
@@ -280,6 +286,12 @@ QWidget *Transform2DPropertyEditor::makeContainer()
     return container;
 }
 
+/// What the field shows, or fallback where there is none.
+double Transform2DPropertyEditor::numberIn(std::size_t row, double fallback) const
+{
+    return m_spinBoxes[row] ? m_spinBoxes[row]->value() : fallback;
+}
+
 void Transform2DPropertyEditor::showNumber(std::size_t row, double number)
 {
     showQuietly(m_spinBoxes[row], finite(number));
@@ -306,18 +318,29 @@ std::size_t Transform2DPropertyEditor::scaleYRow() const
     return scaleXRow() + 1;
 }
 
-void Transform2DPropertyEditor::showScaleY(bool visible)
+/// Whether editor and row are still there: hiding a field that has the focus ends its interactive
+/// run.
+bool Transform2DPropertyEditor::showScaleY(bool visible)
 {
-    m_labels[scaleYRow()]->setVisible(visible);
-    m_sliders[scaleYRow()]->setVisible(visible);
-    m_spinBoxes[scaleYRow()]->setVisible(visible);
-    m_labels[scaleXRow()]->setText(visible ? tr("Scale X:") : tr("Scale:"));
+    const QPointer<Transform2DPropertyEditor> self(this);
+    const QPointer<QWidget> controls[] = {m_labels[scaleYRow()].data(),
+                                          m_sliders[scaleYRow()].data(),
+                                          m_spinBoxes[scaleYRow()].data()};
+    if (m_labels[scaleXRow()])
+        m_labels[scaleXRow()]->setText(visible ? tr("Scale X:") : tr("Scale:"));
+    for (const QPointer<QWidget> &control : controls) {
+        if (control)
+            control->setVisible(visible);
+    }
+    return self && m_spinBoxes[scaleYRow()];
 }
 
 void Transform2DPropertyEditor::copyScaleXToY()
 {
-    showQuietly(m_spinBoxes[scaleYRow()], m_spinBoxes[scaleXRow()]->value());
-    setQuietly(m_sliders[scaleYRow()], &QSlider::setValue, m_sliders[scaleXRow()]->value());
+    if (m_spinBoxes[scaleXRow()])
+        showQuietly(m_spinBoxes[scaleYRow()], m_spinBoxes[scaleXRow()]->value());
+    if (m_sliders[scaleXRow()])
+        setQuietly(m_sliders[scaleYRow()], &QSlider::setValue, m_sliders[scaleXRow()]->value());
 }
 
 } // namespace Tessark::PropertyUI

@@ -3,6 +3,7 @@
 #include "property/PropertyEditor.h"
 
 #include <QGenericMatrix>
+#include <QPointer>
 
 #include <array>
 #include <cstddef>
@@ -94,20 +95,21 @@ private:
     QSlider *makeSlider(const RowKind &kind);
     QDoubleSpinBox *makeSpinBox(const RowKind &kind);
     QWidget *makeContainer();
+    double numberIn(std::size_t row, double fallback) const;
     void showNumber(std::size_t row, double number);
     bool hasCollapsibleScale() const;
     std::size_t rotationRow() const;
     std::size_t scaleXRow() const;
     std::size_t scaleYRow() const;
-    void showScaleY(bool visible);
+    bool showScaleY(bool visible);
     void copyScaleXToY();
 
     static constexpr std::size_t kMaximumRows = 5;
 
     // By row: offset X, offset Y, rotation, scale X, scale Y, without those that are left out.
-    std::array<QDoubleSpinBox *, kMaximumRows> m_spinBoxes{};
-    std::array<QSlider *, kMaximumRows> m_sliders{};
-    std::array<QLabel *, kMaximumRows> m_labels{};
+    std::array<QPointer<QDoubleSpinBox>, kMaximumRows> m_spinBoxes;
+    std::array<QPointer<QSlider>, kMaximumRows> m_sliders;
+    std::array<QPointer<QLabel>, kMaximumRows> m_labels;
     bool m_updating = false; // while a change of a slider or field is being announced
     bool m_showRotation = true;
     bool m_showScale = true;
@@ -115,7 +117,7 @@ private:
     bool m_uniformScale = false;
     bool m_collapsibleScale = false;
     std::size_t m_rowCount = 0;
-    UI::DisclosureButton *m_disclosureButton = nullptr; // null unless the scale is collapsible
+    QPointer<UI::DisclosureButton> m_disclosureButton; // null unless the scale is collapsible
 };
 
 } // namespace Tessark::PropertyUI

@@ -68,7 +68,7 @@ VecPropertyEditor::~VecPropertyEditor() = default;
 
 QWidget *VecPropertyEditor::widget(PropertyEditorContext *)
 {
-    if (!m_widget) {
+    if (buildsNow()) {
         const bool showSliders = hintOr(*m_property, kPropertyHintShowSliders, false);
         const bool showCheck = hintOr(*m_property, kPropertyHintShowMultipleCheck, false);
         m_widget = makeContainer(showSliders, showCheck);
@@ -137,12 +137,16 @@ UI::DisclosureButton *VecPropertyEditor::makeCheck()
 
 void VecPropertyEditor::setMultiple(bool multiple)
 {
+    // Hiding a field that has the focus ends its interactive run, in which a host may delete this.
+    const QPointer<VecPropertyEditor> self(this);
     for (int i = 1; i < m_count; ++i) {
         const auto at = static_cast<std::size_t>(i);
         if (m_sliders[at])
             m_sliders[at]->setVisible(multiple);
-        if (m_spinBoxes[at])
+        if (self && m_spinBoxes[at])
             m_spinBoxes[at]->setVisible(multiple);
+        if (!self)
+            return;
         if (!multiple)
             setComponent(i, component(0)); // hidden components always equal the first
     }

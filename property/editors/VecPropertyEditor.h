@@ -2,6 +2,7 @@
 
 #include "property/PropertyEditor.h"
 
+#include <QPointer>
 #include <QVector4D>
 
 #include <array>
@@ -68,9 +69,9 @@ private:
     static constexpr int kMaximumCount = 4;
 
     const int m_count;
-    std::array<DoubleSpinBox *, kMaximumCount> m_spinBoxes{};
-    std::array<QSlider *, kMaximumCount> m_sliders{}; // null unless sliders are shown
-    UI::DisclosureButton *m_multipleCheck = nullptr;  // null unless asked for
+    std::array<QPointer<DoubleSpinBox>, kMaximumCount> m_spinBoxes;
+    std::array<QPointer<QSlider>, kMaximumCount> m_sliders; // null unless sliders are shown
+    QPointer<UI::DisclosureButton> m_multipleCheck;         // null unless asked for
 };
 
 /// Edits a "vec2" property. Value: QVector2D.

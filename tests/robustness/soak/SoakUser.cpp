@@ -215,7 +215,9 @@ QString SoakUser::turnWheel()
 
 QString SoakUser::moveFocus()
 {
-    QWidget *const widget = anyWidget();
+    QWidget *widget = anyWidget();
+    if (widget->focusPolicy() == Qt::NoFocus) // a label would make a text document for it
+        widget = m_scrollArea;
     send([widget] { widget->setFocus(Qt::OtherFocusReason); });
     return QStringLiteral("focus %1").arg(nameOf(widget));
 }

@@ -3,9 +3,7 @@
 #include "support/FileDialogs.h"
 #include "support/Wheel.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QMenu>
 #include <QScopedValueRollback>

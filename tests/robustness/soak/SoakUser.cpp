@@ -3,9 +3,7 @@
 #include "support/FileDialogs.h"
 #include "support/Wheel.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QMenu>
 #include <QScopedValueRollback>
@@ -215,7 +213,9 @@ QString SoakUser::turnWheel()
 
 QString SoakUser::moveFocus()
 {
-    QWidget *const widget = anyWidget();
+    QWidget *widget = anyWidget();
+    if (widget->focusPolicy() == Qt::NoFocus) // a label would make a text document for it
+        widget = m_scrollArea;
     send([widget] { widget->setFocus(Qt::OtherFocusReason); });
     return QStringLiteral("focus %1").arg(nameOf(widget));
 }

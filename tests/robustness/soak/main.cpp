@@ -10,7 +10,6 @@
 
 #include <property/editors/TexturePropertyEditor.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>

@@ -33,8 +33,15 @@ struct PropertyListResult
  * warning; so register editors of your own types in PropertyEditorRegistry before. A row with a bad
  * range, default or hint is read without it, and without the textures that cannot be read. A row that is no object, or has no usable type or
  * name, is left out, and so is the second row of a name; structural rows stay in without their name.
+ * A rule with a mistake stays in the list, where RuleEngine passes over it.
  */
 TESSARK_PROPERTYHOST_EXPORT PropertyListResult readPropertyList(const QByteArray &json,
                                                                 const QString &folder = QString());
+
+/// The same, telling also what does no harm but has no effect: hints that no editor of the row's
+/// type reads. Together these are the problems of PropertyList::validate(), and those of rows that
+/// cannot be read.
+TESSARK_PROPERTYHOST_EXPORT PropertyListResult checkPropertyList(const QByteArray &json,
+                                                                 const QString &folder = QString());
 
 } // namespace Tessark::PropertyHost

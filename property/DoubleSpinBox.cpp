@@ -1,7 +1,5 @@
 #include "property/DoubleSpinBox.h"
 
-#include <QLocale>
-
 #include <cmath>
 
 namespace Tessark::PropertyUI {
@@ -34,6 +32,19 @@ QValidator::State DoubleSpinBox::validate(QString &input, int &pos) const
 }
 
 QString DoubleSpinBox::textFromValue(double value) const
+{
+    const bool isLast = value == m_textValue && std::signbit(value) == std::signbit(m_textValue)
+                        && decimals() == m_textDecimals && locale() == m_textLocale;
+    if (!isLast) {
+        m_text = makeText(value);
+        m_textLocale = locale();
+        m_textValue = value;
+        m_textDecimals = decimals();
+    }
+    return m_text;
+}
+
+QString DoubleSpinBox::makeText(double value) const
 {
     // These are a QChar in Qt 5 and a QString in Qt 6, where some scripts need two code units.
     const QString groupSeparator(locale().groupSeparator());

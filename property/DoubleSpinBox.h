@@ -3,6 +3,8 @@
 #include "property/PropertyExport.h"
 
 #include <QDoubleSpinBox>
+#include <QLocale>
+#include <QString>
 
 namespace Tessark::PropertyUI {
 
@@ -21,6 +23,15 @@ public:
 
     QValidator::State validate(QString &input, int &pos) const override;
     QString textFromValue(double value) const override;
+
+private:
+    QString makeText(double value) const;
+
+    // The last text made: a field that is refreshed asks for the same one each time.
+    mutable QString m_text;
+    mutable QLocale m_textLocale;
+    mutable double m_textValue = 0;
+    mutable int m_textDecimals = -1;
 };
 
 } // namespace Tessark::PropertyUI

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace Tessark::PropertyUI {
@@ -52,11 +53,27 @@ bool showsExactly(const SpinBox &spinBox, Number value)
            && spinBox.text() == spinBox.prefix() + textOf(spinBox, value) + spinBox.suffix();
 }
 
+/// Rounded to decimals as a QDoubleSpinBox does it, which takes the way through text.
+double rounded(double number, int decimals)
+{
+    constexpr double kPowers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
+    constexpr double kExactBelow = 1e15;  // whole numbers, with room for the rounding below
+    constexpr double kSurelyNoTie = 0.49; // a tie is decided by the digits behind it
+    if (decimals >= 0 && decimals < int(std::size(kPowers))) {
+        const double power = kPowers[decimals];
+        const double scaled = number * power;
+        const double whole = std::nearbyint(scaled);
+        if (std::fabs(scaled) < kExactBelow && std::fabs(scaled - whole) < kSurelyNoTie)
+            return whole / power; // two exact numbers: the double next to the decimal, as from text
+    }
+    return QString::number(number, 'f', decimals).toDouble();
+}
+
 /// The number that the field would hold after setValue(number).
 double asHeldBy(const QDoubleSpinBox &spinBox, double number)
 {
     if (number != spinBox.value()) // what it holds is rounded
-        number = QString::number(number, 'f', spinBox.decimals()).toDouble();
+        number = rounded(number, spinBox.decimals());
     return std::clamp(number, spinBox.minimum(), spinBox.maximum());
 }
 

@@ -126,11 +126,14 @@ private:
 
     void connectToPanel(PropertyEditor *editor)
     {
-        connect(editor, &PropertyEditor::valueChanged, m_panel,
-                &PropertyEditorPanel::editorValueChanged);
-        connect(editor, &PropertyEditor::startInteractiveChange, m_panel,
-                &PropertyEditorPanel::startInteractiveChange);
-        connect(editor, &PropertyEditor::endInteractiveChange, m_panel,
+        // Each connection knows its editor: finding the sender again takes Qt a walk over the
+        // connections of all editors.
+        PropertyEditorPanel *const panel = m_panel;
+        connect(editor, &PropertyEditor::valueChanged, panel,
+                [panel, editor] { panel->forwardEdit(editor); });
+        connect(editor, &PropertyEditor::startInteractiveChange, panel,
+                [panel, editor] { panel->beginRun(editor); });
+        connect(editor, &PropertyEditor::endInteractiveChange, panel,
                 &PropertyEditorPanel::endInteractiveChange);
     }
 
@@ -246,9 +249,24 @@ PropertyEditor *PropertyEditorPanel::editorAt(const QPoint &position) const
 
 void PropertyEditorPanel::editorValueChanged()
 {
-    auto *const editor = qobject_cast<PropertyEditor *>(sender());
-    if (!editor)
-        return;
+    if (auto *editor = qobject_cast<PropertyEditor *>(sender()))
+        forwardEdit(editor);
+}
+
+void PropertyEditorPanel::startInteractiveChange()
+{
+    if (auto *editor = qobject_cast<PropertyEditor *>(sender()))
+        beginRun(editor);
+}
+
+void PropertyEditorPanel::endInteractiveChange()
+{
+    m_interactiveEditor = nullptr;
+    m_interactiveChangeSeen = false;
+}
+
+void PropertyEditorPanel::forwardEdit(PropertyEditor *editor)
+{
     const QPointer<PropertyEditorPanel> self(this);
     const QPointer<PropertyEditor> editorAlive(editor);
     Property *const property = editor->editedProperty();
@@ -267,17 +285,9 @@ void PropertyEditorPanel::editorValueChanged()
         m_layout->setGroupVisible(editor->widget(nullptr), editor->value().toBool());
 }
 
-void PropertyEditorPanel::startInteractiveChange()
+void PropertyEditorPanel::beginRun(PropertyEditor *editor)
 {
-    if (auto *editor = qobject_cast<PropertyEditor *>(sender())) {
-        m_interactiveEditor = editor;
-        m_interactiveChangeSeen = false;
-    }
-}
-
-void PropertyEditorPanel::endInteractiveChange()
-{
-    m_interactiveEditor = nullptr;
+    m_interactiveEditor = editor;
     m_interactiveChangeSeen = false;
 }
 

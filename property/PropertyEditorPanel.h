@@ -73,7 +73,7 @@ public Q_SLOTS:
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
-private Q_SLOTS:
+private Q_SLOTS: // for a host that connects by name; the panel's own connections know the editor
     void editorValueChanged();
     void startInteractiveChange();
     void endInteractiveChange();
@@ -81,6 +81,8 @@ private Q_SLOTS:
 private:
     class Builder;
 
+    void forwardEdit(PropertyEditor *editor);
+    void beginRun(PropertyEditor *editor);
     PropertyEditor *editorAt(const QPoint &position) const;
 
     QVector<Property *> m_properties;              // not owned

@@ -68,6 +68,36 @@ bool removeWidgetItem(QLayout *layout, const QObject *widget)
     return false;
 }
 
+bool hasMaximum(const QWidget &widget)
+{
+    return widget.maximumSize() != QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+bool growsHorizontally(const QWidget &widget)
+{
+    return widget.sizePolicy().horizontalPolicy() & QSizePolicy::GrowFlag;
+}
+
+bool growsVertically(const QWidget &widget)
+{
+    return widget.sizePolicy().verticalPolicy() & QSizePolicy::GrowFlag;
+}
+
+/// The item of a row's widget. A QWidgetItem asks its widget for both size hints to find the maximum
+/// size, for each layout pass and each move, and needs them for none that may grow without bound.
+class RowItem final : public QWidgetItem
+{
+public:
+    using QWidgetItem::QWidgetItem;
+
+    QSize maximumSize() const override
+    {
+        const bool isBoundless = growsHorizontally(*wid) && growsVertically(*wid)
+                                 && !hasMaximum(*wid) && !alignment() && !isEmpty();
+        return isBoundless ? wid->maximumSize() : QWidgetItem::maximumSize();
+    }
+};
+
 /// Lets widgets that leave their parent leave the layout too. A layout does that itself, but not
 /// while it is disabled, and would keep the item of a deleted widget.
 class LeavingWidgets final : public QObject
@@ -130,6 +160,18 @@ bool PropertyLayout::Entry::expandsHorizontally() const
         return true;
     const QWidget *widget = item->widget();
     return widget && widget->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
+}
+
+/// Whether the item's size hint is sure to lie between its minimum and its maximum: it is a RowItem,
+/// whose widget has neither a maximum size nor an ignored hint.
+bool PropertyLayout::Entry::hintIsWithinBounds() const
+{
+    if (!isRowItem || item->alignment())
+        return false;
+    const QWidget &widget = *item->widget();
+    const QSizePolicy policy = widget.sizePolicy();
+    return !hasMaximum(widget) && policy.horizontalPolicy() != QSizePolicy::Ignored
+           && policy.verticalPolicy() != QSizePolicy::Ignored;
 }
 
 bool PropertyLayout::Entry::expandsVertically() const
@@ -246,7 +288,8 @@ void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Align
         else if (widget->property("endGroup").toBool())
             options |= EndGroup;
     }
-    m_items.push_back({item, options, -1, -1, alignment});
+    const bool isRowItem = dynamic_cast<RowItem *>(item) != nullptr;
+    m_items.push_back({item, options, -1, -1, alignment, isRowItem});
     ++m_revision;
     m_cachedSizeHint = QSize();
     m_cachedMinimumSize = QSize();
@@ -282,7 +325,7 @@ void PropertyLayout::addChildItem(QWidget *widget, LayoutOptions options)
     if (!widget)
         return;
     addChildWidget(widget);
-    addItem(new QWidgetItem(widget), options, Qt::AlignCenter);
+    addItem(new RowItem(widget), options, Qt::AlignCenter);
 }
 
 void PropertyLayout::setVerticalSpacing(int spacing)
@@ -454,13 +497,21 @@ void PropertyLayout::sizeRow(Row &row, qint64 rowSpace, Measure &measure) const
 
 void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
 {
-    // Asked for once: a widget computes them anew each time.
-    const QSize minimum = entry.item->minimumSize();
-    const QSize maximum = entry.item->maximumSize();
+    const QSize hint(entry.width, entry.height);
     const bool takesShare = !entry.isLabel() && entry.expandsHorizontally();
     if (takesShare) {
         entry.width = saturated(equalShare(spareWidth, row.expandCount));
         --row.expandCount;
+    }
+    const bool fillsRow = entry.expandsVertically();
+    QSize minimum = hint;
+    QSize maximum = hint;
+    if (fillsRow || entry.width < hint.width() || !entry.hintIsWithinBounds()) {
+        // Asked for once, and only where it counts: a widget computes them anew each time.
+        minimum = entry.item->minimumSize();
+        maximum = entry.item->maximumSize();
+    } else if (takesShare && growsHorizontally(*entry.item->widget())) {
+        maximum.setWidth(entry.width);
     }
     entry.width = bounded(minimum.width(), entry.width, maximum.width());
     if (takesShare)
@@ -468,7 +519,7 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
 
     const int height = bounded(minimum.height(), entry.height, maximum.height());
     row.height = std::max(row.height, height);
-    if (entry.expandsVertically()) {
+    if (fillsRow) {
         row.heightCap = std::min(row.heightCap, maximum.height());
         row.heightFloor = std::max(row.heightFloor, minimum.height());
         row.expandsVertically = true;

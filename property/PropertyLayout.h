@@ -97,10 +97,12 @@ private:
         int width = -1;  // size hint as measured, then the width given in the row
         int height = -1; // size hint as measured
         Qt::Alignment alignment;
+        bool isRowItem; // made by the layout for a widget
 
         bool isLabel() const { return (options & NewRow) && !(options & FullWidth); }
         bool expandsHorizontally() const;
         bool expandsVertically() const;
+        bool hintIsWithinBounds() const;
     };
     struct Measure;
     struct Row;

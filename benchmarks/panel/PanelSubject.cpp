@@ -88,7 +88,10 @@ PanelSubject::PanelSubject(int rows)
     m_window.setWidget(m_panel);
 }
 
-PanelSubject::~PanelSubject() = default;
+PanelSubject::~PanelSubject()
+{
+    delete m_window.takeWidget(); // as the other subject: closing a window tells all that is in it
+}
 
 void PanelSubject::refresh(int round)
 {

@@ -4,15 +4,17 @@
 
 #include <map>
 
-/// Cost by name of workload: processor time in seconds of one operation, bytes for "memory".
-using Costs = std::map<QString, double>;
-
 /// The workloads in the order of reports.
 QStringList workloads();
 
-/// Measures one subject, "bare" or "panel", in this process.
-Costs measure(const QString &subject, int rows);
+/// What measuring one subject in this process gave.
+struct Measurement
+{
+    std::map<QString, double> costs; // by workload: seconds of processor time of one operation,
+                                     // bytes a row for "memory"
+    int operations = 0;              // how many were timed, of all workloads together
+};
 
-/// Runs one workload some times in this process and measures nothing: to be counted or profiled from
-/// outside. False for a name that is none of workloads().
-bool repeat(const QString &subject, int rows, const QString &workload, int times);
+/// Measures the given workloads of a subject, "bare" or "panel". Workloads that the subject has
+/// nothing like are left out of the costs.
+Measurement measure(const QString &subject, int rows, const QStringList &wanted);

@@ -2,7 +2,7 @@
 // gets a process of its own, bare and panel in turn; costs are processor time, ratios are made pair
 // by pair, and medians are reported.
 //
-//   bench-panel [--rows 100,1000] [--pairs 5] [--json]
+//   bench-panel [--rows 100,1000] [--pairs 5] [--workloads build,edit] [--json]
 
 #include "Workloads.h"
 
@@ -30,22 +30,25 @@ double median(std::vector<double> values)
     return values.empty() ? 0 : values[values.size() / 2];
 }
 
-QJsonObject toJson(const Costs &costs)
+QJsonObject toJson(const Measurement &measurement)
 {
     QJsonObject object;
-    for (const auto &[name, cost] : costs)
+    for (const auto &[name, cost] : measurement.costs)
         object.insert(name, cost);
+    object.insert(QStringLiteral("operations"), measurement.operations);
+    object.insert(QStringLiteral("qt"), QString::fromLatin1(qVersion()));
     return object;
 }
 
 /// The costs as a process of their own measured them; nothing when it failed.
-std::optional<QJsonObject> measureApart(const QString &subject, int rows)
+std::optional<QJsonObject> measureApart(const QString &subject, int rows, const QStringList &wanted)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(
-        QCoreApplication::applicationFilePath(),
-        {QStringLiteral("--measure"), subject, QStringLiteral("--rows"), QString::number(rows)});
+    process.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--measure"), subject, QStringLiteral("--rows"),
+                   QString::number(rows), QStringLiteral("--workloads"),
+                   wanted.join(QLatin1Char(','))});
     if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit
         || process.exitCode() != 0)
         return std::nullopt;
@@ -62,19 +65,19 @@ struct Line
     double ratio = 0; // 0: bare has nothing like it
 };
 
-std::optional<std::vector<Line>> measurePairs(int rows, int pairs)
+std::optional<std::vector<Line>> measurePairs(int rows, int pairs, const QStringList &wanted)
 {
     std::vector<QJsonObject> bare, panel;
     for (int pair = 0; pair < pairs; ++pair) {
-        const auto bareCosts = measureApart(kBare, rows);
-        const auto panelCosts = measureApart(kPanel, rows);
+        const auto bareCosts = measureApart(kBare, rows, wanted);
+        const auto panelCosts = measureApart(kPanel, rows, wanted);
         if (!bareCosts || !panelCosts)
             return std::nullopt;
         bare.push_back(*bareCosts);
         panel.push_back(*panelCosts);
     }
     std::vector<Line> lines;
-    for (const QString &workload : workloads()) {
+    for (const QString &workload : wanted) {
         std::vector<double> bareCosts, panelCosts, ratios;
         for (std::size_t pair = 0; pair < bare.size(); ++pair) {
             bareCosts.push_back(bare[pair].value(workload).toDouble());
@@ -102,11 +105,12 @@ const Line *find(const std::vector<Line> &lines, const QString &workload, int ro
     return nullptr;
 }
 
-void printTable(const std::vector<Line> &lines, const std::vector<int> &sizes)
+void printTable(const std::vector<Line> &lines, const std::vector<int> &sizes,
+                const QStringList &wanted)
 {
     std::printf("Qt %s; microseconds (memory: bytes per row)\n", qVersion());
     std::printf("%-16s %8s %14s %14s %8s\n", "workload", "rows", "bare", "panel", "ratio");
-    for (const QString &workload : workloads()) {
+    for (const QString &workload : wanted) {
         for (const int rows : sizes) {
             const Line *const line = find(lines, workload, rows);
             const double unit = workload == QLatin1String("memory") ? 1 : 1e6;
@@ -154,33 +158,32 @@ int main(int argc, char **argv)
         {QStringLiteral("json"), QStringLiteral("Print JSON.")},
         {QStringLiteral("measure"), QStringLiteral("Measure one subject in this process."),
          QStringLiteral("bare|panel")},
-        {QStringLiteral("workload"),
-         QStringLiteral("With --measure: run this one only, to be profiled from outside."),
-         QStringLiteral("NAME")},
-        {QStringLiteral("times"), QStringLiteral("How often the one workload runs."),
-         QStringLiteral("COUNT"), QStringLiteral("1")},
+        {QStringLiteral("workloads"), QStringLiteral("What to measure."),
+         QStringLiteral("NAME,NAME"), workloads().join(QLatin1Char(','))},
     });
     parser.process(application);
 
     std::vector<int> sizes;
     for (const QString &size : parser.value(QStringLiteral("rows")).split(QLatin1Char(',')))
         sizes.push_back(std::max(size.toInt(), 2));
-    if (parser.isSet(QStringLiteral("workload"))) {
-        const bool known = repeat(parser.value(QStringLiteral("measure")), sizes.front(),
-                                  parser.value(QStringLiteral("workload")),
-                                  parser.value(QStringLiteral("times")).toInt());
-        return known ? 0 : 1;
+    const QStringList wanted = parser.value(QStringLiteral("workloads")).split(QLatin1Char(','));
+    for (const QString &workload : wanted) {
+        if (!workloads().contains(workload)) {
+            std::fprintf(stderr, "bench-panel: no workload \"%s\"\n", qPrintable(workload));
+            return 2;
+        }
     }
     if (parser.isSet(QStringLiteral("measure"))) {
-        const Costs costs = measure(parser.value(QStringLiteral("measure")), sizes.front());
-        std::printf("%s", QJsonDocument(toJson(costs)).toJson().constData());
+        const Measurement measurement =
+            measure(parser.value(QStringLiteral("measure")), sizes.front(), wanted);
+        std::printf("%s", QJsonDocument(toJson(measurement)).toJson().constData());
         return 0;
     }
 
     std::vector<Line> lines;
     for (const int rows : sizes) {
         const auto measured =
-            measurePairs(rows, std::max(parser.value(QStringLiteral("pairs")).toInt(), 1));
+            measurePairs(rows, std::max(parser.value(QStringLiteral("pairs")).toInt(), 1), wanted);
         if (!measured) {
             std::fprintf(stderr, "bench-panel: a measuring process failed\n");
             return 1;
@@ -190,6 +193,6 @@ int main(int argc, char **argv)
     if (parser.isSet(QStringLiteral("json")))
         printJson(lines);
     else
-        printTable(lines, sizes);
+        printTable(lines, sizes, wanted);
     return 0;
 }

@@ -10,8 +10,11 @@
 
 #include <QHBoxLayout>
 #include <QPixmap>
+#include <QRandomGenerator>
 #include <QTest>
 
+#include <cmath>
+#include <cstring>
 #include <limits>
 
 using namespace Tessark::PropertyUI;
@@ -22,6 +25,14 @@ namespace {
 constexpr int kSliderLimit = 1000000000;
 const double kInfinity = std::numeric_limits<double>::infinity();
 const double kNan = std::numeric_limits<double>::quiet_NaN();
+
+/// The representation of a number, in which -0 is not 0 and nothing is nearly the same.
+quint64 bitsOf(double number)
+{
+    quint64 bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
 
 struct Subject : RangedEditor<FloatPropertyEditor, QDoubleSpinBox>
 {
@@ -74,6 +85,7 @@ private Q_SLOTS:
     void logarithmicSliderMovesTheSpinBox();
     void setValueShowsSilently_data();
     void setValueShowsSilently();
+    void valuesAreRoundedAsTheFieldDoes();
     void sliderPositionIsTruncated_data();
     void sliderPositionIsTruncated();
     void valueIsADouble();
@@ -372,6 +384,35 @@ void tst_FloatPropertyEditor::setValueShowsSilently()
     QCOMPARE(log.take(), QStringList());
     QVERIFY(!subject.slider->signalsBlocked());
     QVERIFY(!subject.spinBox->signalsBlocked());
+}
+
+// A value that the field shows already is not written again, so the editor must know what the field
+// would make of it, to the last bit.
+void tst_FloatPropertyEditor::valuesAreRoundedAsTheFieldDoes()
+{
+    constexpr double kLimit = 1e6;
+    QRandomGenerator random(7);
+    for (const int decimals : {0, 2, 4, 7, 9}) {
+        Subject subject(-kLimit, kLimit);
+        subject.with(kPropertyHintFloatDecimals, decimals).build();
+        QDoubleSpinBox plain;
+        plain.setDecimals(decimals);
+        plain.setRange(-kLimit, kLimit);
+        const double unit = std::pow(10.0, -decimals);
+        for (int i = 0; i < 400; ++i) {
+            const double somewhere = random.generateDouble() * 2000 - 1000;
+            const double tie = (std::floor(somewhere / unit) + 0.5) * unit;
+            const double values[] = {
+                somewhere, somewhere + unit / 3,        double(float(somewhere)),
+                tie,       std::nextafter(tie, kLimit), -unit / 4,
+                somewhere};
+            for (const double value : values) {
+                subject.editor->setValue(value);
+                plain.setValue(value);
+                QCOMPARE(bitsOf(subject.spinBox->value()), bitsOf(plain.value()));
+            }
+        }
+    }
 }
 
 void tst_FloatPropertyEditor::sliderPositionIsTruncated_data()

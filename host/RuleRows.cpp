@@ -144,7 +144,10 @@ bool RuleRows::eventFilter(QObject *watched, QEvent *event)
         forgetWidget(static_cast<QWidget *>(watched), static_cast<QChildEvent *>(event)->child());
         return false;
     }
-    const int row = watched == m_own ? -1 : m_rowOfWidget.value(watched, -1);
+    const bool isNews = event->type() == QEvent::ShowToParent
+                        || event->type() == QEvent::HideToParent
+                        || event->type() == QEvent::EnabledChange;
+    const int row = isNews && watched != m_own ? m_rowOfWidget.value(watched, -1) : -1;
     if (row < 0)
         return false;
     auto *const widget = static_cast<QWidget *>(watched);
@@ -152,7 +155,7 @@ bool RuleRows::eventFilter(QObject *watched, QEvent *event)
         othersShowed(row, widget);
     else if (event->type() == QEvent::HideToParent)
         othersHid(row, widget);
-    else if (event->type() == QEvent::EnabledChange)
+    else
         othersEnabled(row, widget);
     return false;
 }

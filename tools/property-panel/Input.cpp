@@ -44,11 +44,13 @@ void note(const QVector<PropertyHost::Problem> &problems, const QString &path, I
     input.hasErrors = input.hasErrors || PropertyHost::hasErrors(problems);
 }
 
-void readList(const QString &path, Input &input)
+void readList(const QString &path, Options::Task task, Input &input)
 {
+    const auto read = task == Options::Task::Check ? PropertyHost::checkPropertyList
+                                                   : PropertyHost::readPropertyList;
     QVector<PropertyHost::Problem> problems;
     if (const auto json = readFile(path, problems)) {
-        auto result = PropertyHost::readPropertyList(*json, folderOf(path));
+        auto result = read(*json, folderOf(path));
         input.list = std::move(result.list);
         problems += result.problems;
     }
@@ -71,7 +73,7 @@ void readValues(const QString &path, Input &input)
 Input readInput(const Options &options)
 {
     Input input;
-    readList(options.listPath.isEmpty() ? kBuiltInList : options.listPath, input);
+    readList(options.listPath.isEmpty() ? kBuiltInList : options.listPath, options.task, input);
     input.store = std::make_unique<PropertyHost::PropertyStore>();
     input.store->reset(input.list);
     if (!options.valuesPath.isEmpty())

@@ -5,6 +5,7 @@
 
 #include <property/Property.h>
 #include <property/TextureChoice.h>
+#include <property/ValueCodecs.h>
 #include <property/editors/ImageFormatEditor.h>
 
 #include <QColor>

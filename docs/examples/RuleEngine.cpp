@@ -19,14 +19,16 @@ int main(int argc, char *argv[])
     PropertyList list;
     list.boolean("manual", "Manual");
     list.integer("limit", "Limit").range(0, 100).defaultValue(80).enabledWhen("manual");
-    list.group("Levels", [&] {
-        list.integer("low", "Low").range(0, 100).defaultValue(20).maximumFollows("high");
-        list.integer("high", "High")
-            .range(0, 100)
-            .defaultValue(60)
-            .minimumFollows("low")
-            .maximumFollows("limit - 10");
-    }).visibleWhen("manual and limit > 10");
+    list.group("Levels",
+               [&] {
+                   list.integer("low", "Low").range(0, 100).defaultValue(20).maximumFollows("high");
+                   list.integer("high", "High")
+                       .range(0, 100)
+                       .defaultValue(60)
+                       .minimumFollows("low")
+                       .maximumFollows("limit - 10");
+               })
+        .visibleWhen("manual and limit > 10");
 
     PropertyStore store;
     store.reset(list);
@@ -48,7 +50,7 @@ int main(int argc, char *argv[])
     // What the user does in the panel, or undo, or a refresh as here, brings the rows up to date.
     store.setValue(properties.at(0), true, PropertyStore::NewChange);
     panel.updateUI();
-    out << "group shown: " << rules.isVisible(group) << ", high from "
-        << high->minValue.toInt() << " to " << high->maxValue.toInt() << '\n';
+    out << "group shown: " << rules.isVisible(group) << ", high from " << high->minValue.toInt()
+        << " to " << high->maxValue.toInt() << '\n';
     return 0; // app.exec() in a program that goes on
 }

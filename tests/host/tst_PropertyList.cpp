@@ -17,10 +17,14 @@
 #include <QJsonDocument>
 #include <QTest>
 
+#include <memory>
 #include <stdexcept>
 
 using namespace Tessark::PropertyHost;
 using namespace Tessark::PropertyUI;
+
+using PropertyPointer = std::shared_ptr<Property>; // a property has no default
+Q_DECLARE_METATYPE(PropertyPointer)
 
 namespace {
 
@@ -626,13 +630,13 @@ void tst_PropertyList::validListHasNoProblems()
 
 void tst_PropertyList::problems_data()
 {
-    QTest::addColumn<Property>("property");
+    QTest::addColumn<PropertyPointer>("property");
     QTest::addColumn<QStringList>("problems"); // behind "/properties/0"
     const auto make = [](const QString &type) {
         return Property(QStringLiteral("a"), QString(), type);
     };
     const auto row = [](const char *name, const Property &property, const QString &problem) {
-        QTest::newRow(name) << property << QStringList{problem};
+        QTest::newRow(name) << std::make_shared<Property>(property) << QStringList{problem};
     };
     row("no name", Property(QString(), QString(), kPropertyTypeBoolean),
         QStringLiteral("error: : \"name\" is missing"));
@@ -674,10 +678,10 @@ void tst_PropertyList::problems_data()
 
 void tst_PropertyList::problems()
 {
-    QFETCH(Property, property);
+    QFETCH(PropertyPointer, property);
     QFETCH(QStringList, problems);
     PropertyList list;
-    list.append(property);
+    list.append(*property);
 
     const auto found = list.validate();
 
@@ -690,7 +694,7 @@ void tst_PropertyList::problems()
     }
     QCOMPARE(texts(found), expected);
     QCOMPARE(found.first().row, 0);
-    QCOMPARE(found.first().name, property.name);
+    QCOMPARE(found.first().name, property->name);
 }
 
 void tst_PropertyList::kindsOfDefaults_data()

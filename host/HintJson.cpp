@@ -1,7 +1,9 @@
 #include "host/HintJson_p.h"
 
+#include "host/HostHints.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
+#include "host/ValueJson_p.h"
 
 #include <property/PropertyVocabulary.h>
 
@@ -11,6 +13,8 @@
 #include <QRegularExpression>
 #include <QTabWidget>
 
+#include <functional>
+
 namespace Tessark::PropertyHost {
 
 namespace {
@@ -18,12 +22,25 @@ namespace {
 using namespace PropertyUI;
 
 using HintReader = std::optional<QVariant> (*)(const QJsonValue &json, ConversionError &error);
+using HintWriter = QJsonValue (*)(const QVariant &value);
+
+/// How a hint is read and written.
+struct HintForm
+{
+    HintReader read = nullptr;
+    HintWriter write = nullptr;
+};
 
 struct NamedNumber
 {
     QLatin1String name;
     int number = 0;
 };
+
+const QLatin1String kFontFamily("family");
+const QLatin1String kFontSize("size");
+const QLatin1String kFontBold("bold");
+const QLatin1String kFontItalic("italic");
 
 const NamedNumber kAlignments[] = {
     {QLatin1String("left"), Qt::AlignLeft},       {QLatin1String("right"), Qt::AlignRight},
@@ -252,10 +269,10 @@ std::optional<QVariant> fontFromObject(const QJsonObject &object, ConversionErro
 {
     using Setter = bool (*)(QFont &, const QJsonValue &, ConversionError &);
     static const QMap<QString, Setter> s_setters{
-        {QStringLiteral("family"), setFontFamily},
-        {QStringLiteral("size"), setFontSize},
-        {QStringLiteral("bold"), setFontBold},
-        {QStringLiteral("italic"), setFontItalic},
+        {kFontFamily, setFontFamily},
+        {kFontSize, setFontSize},
+        {kFontBold, setFontBold},
+        {kFontItalic, setFontItalic},
     };
     QFont font;
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
@@ -280,57 +297,179 @@ std::optional<QVariant> readFont(const QJsonValue &json, ConversionError &error)
     return std::nullopt;
 }
 
-const QMap<QString, HintReader> &hintReaders()
+std::optional<QVariant> readConditions(const QJsonValue &json, ConversionError &error)
 {
-    static const QMap<QString, HintReader> s_readers{
-        {kPropertyHintEnabled, readBoolean},
-        {kPropertyHintFullWidth, readBoolean},
-        {kPropertyHintForeground, readColor},
-        {kPropertyHintBackground, readColor},
-        {kPropertyHintFont, readFont},
-        {kPropertyHintAlignment, readAlignment},
-        {kPropertyHintOrientation, readOrientation},
-        {kPropertyHintSize, readSize},
-        {kPropertyHintMinimumSize, readSize},
-        {kPropertyHintMaximumSize, readSize},
-        {kPropertyHintWidget, readText},
-        {kPropertyHintPreferencesKey, readText},
-        {kPropertyHintStyleSheet, readText},
-        {kPropertyHintTabPosition, readTabPosition},
-        {kPropertyHintValues, readValues},
-        {kPropertyHintDisplayValues, readTexts},
-        {kPropertyHintShowMultipleCheck, readBoolean},
-        {kPropertyHintShowSliders, readBoolean},
-        {kPropertyHintLogarithmicSlider, readBoolean},
-        {kPropertyHintDisplayScale, readNumber},
-        {kPropertyHintAspectRatio, readSize},
-        {kPropertyHintFullSize, readSize},
-        {kPropertyHintBoolHideLabel, readBoolean},
-        {kPropertyHintXfrmNoRotation, readBoolean},
-        {kPropertyHintXfrmNoPosition, readBoolean},
-        {kPropertyHintXfrmNoScale, readBoolean},
-        {kPropertyHintFloatDecimals, readInteger},
-        {kPropertyHintSuffix, readText},
-        {kPropertyHintXfrmUniformScale, readBoolean},
-        {kPropertyHintXfrmCollapsibleScale, readBoolean},
-        {kPropertyHintUseNativeDialogs, readBoolean},
+    if (json.isString())
+        return QVariant(json.toString());
+    const auto texts =
+        textsFromJson(json, QStringLiteral("a condition or an array of them"), error);
+    if (!texts || !texts->isEmpty())
+        return toVariant(texts);
+    error.message = QStringLiteral("expected conditions, found an empty array");
+    return std::nullopt;
+}
+
+/// What JSON holds as it is: scalars, lists of them, and whatever a hint of the host is made of.
+QJsonValue writePlain(const QVariant &value)
+{
+    return QJsonValue::fromVariant(value);
+}
+
+QJsonValue writeSize(const QVariant &value)
+{
+    const QSize size = value.toSize();
+    return QJsonArray{size.width(), size.height()};
+}
+
+QJsonValue writeColor(const QVariant &value)
+{
+    return colorToJson(value.value<QColor>(), Alpha::With);
+}
+
+template <std::size_t N>
+QJsonValue nameToJson(const NamedNumber (&table)[N], const QVariant &value)
+{
+    for (const NamedNumber &entry : table) {
+        if (entry.number == value.toInt())
+            return QString(entry.name);
+    }
+    return QJsonValue::Undefined;
+}
+
+QJsonValue writeTabPosition(const QVariant &value)
+{
+    return nameToJson(kTabPositions, value);
+}
+
+QJsonValue writeOrientation(const QVariant &value)
+{
+    return nameToJson(kOrientations, value);
+}
+
+/// The names of single flags; those of several come last in the table and are not needed.
+QJsonValue writeAlignment(const QVariant &value)
+{
+    int rest = value.toInt();
+    QStringList names;
+    for (const NamedNumber &entry : kAlignments) {
+        if ((rest & entry.number) != entry.number)
+            continue;
+        names.append(entry.name);
+        rest &= ~entry.number;
+    }
+    const bool isWhole = rest == 0 && !names.isEmpty();
+    return isWhole ? QJsonValue(names.join(QLatin1Char('|'))) : QJsonValue(QJsonValue::Undefined);
+}
+
+/// True when the font itself says what getter gives, rather than the widget that will show it:
+/// then it comes out the same whatever font stands behind.
+template <typename Getter>
+bool isOwn(const QFont &font, const QFont &behind, const QFont &otherBehind, Getter getter)
+{
+    return std::invoke(getter, font.resolve(behind))
+           == std::invoke(getter, font.resolve(otherBehind));
+}
+
+QJsonValue writeFont(const QVariant &value)
+{
+    const auto font = value.value<QFont>();
+    QFont plain(QStringLiteral("Plain"), 10);
+    plain.setBold(false);
+    plain.setItalic(false);
+    QFont other(QStringLiteral("Other"), 20, QFont::Bold, true);
+    QJsonObject object;
+    if (isOwn(font, plain, other, &QFont::family))
+        object.insert(kFontFamily, font.family());
+    if (isOwn(font, plain, other, &QFont::pointSizeF) && font.pointSizeF() > 0)
+        object.insert(kFontSize, font.pointSizeF());
+    if (isOwn(font, plain, other, &QFont::bold))
+        object.insert(kFontBold, font.bold());
+    if (isOwn(font, plain, other, &QFont::italic))
+        object.insert(kFontItalic, font.italic());
+    return object;
+}
+
+const QMap<QString, HintForm> &vocabularyForms()
+{
+    const HintForm boolean{readBoolean, writePlain};
+    const HintForm integer{readInteger, writePlain};
+    const HintForm number{readNumber, writePlain};
+    const HintForm text{readText, writePlain};
+    const HintForm size{readSize, writeSize};
+    const HintForm color{readColor, writeColor};
+    static const QMap<QString, HintForm> s_forms{
+        {kPropertyHintEnabled, boolean},
+        {kPropertyHintFullWidth, boolean},
+        {kPropertyHintForeground, color},
+        {kPropertyHintBackground, color},
+        {kPropertyHintFont, {readFont, writeFont}},
+        {kPropertyHintAlignment, {readAlignment, writeAlignment}},
+        {kPropertyHintOrientation, {readOrientation, writeOrientation}},
+        {kPropertyHintSize, size},
+        {kPropertyHintMinimumSize, size},
+        {kPropertyHintMaximumSize, size},
+        {kPropertyHintWidget, text},
+        {kPropertyHintPreferencesKey, text},
+        {kPropertyHintStyleSheet, text},
+        {kPropertyHintTabPosition, {readTabPosition, writeTabPosition}},
+        {kPropertyHintValues, {readValues, writePlain}},
+        {kPropertyHintDisplayValues, {readTexts, writePlain}},
+        {kPropertyHintShowMultipleCheck, boolean},
+        {kPropertyHintShowSliders, boolean},
+        {kPropertyHintLogarithmicSlider, boolean},
+        {kPropertyHintDisplayScale, number},
+        {kPropertyHintAspectRatio, size},
+        {kPropertyHintFullSize, size},
+        {kPropertyHintBoolHideLabel, boolean},
+        {kPropertyHintXfrmNoRotation, boolean},
+        {kPropertyHintXfrmNoPosition, boolean},
+        {kPropertyHintXfrmNoScale, boolean},
+        {kPropertyHintFloatDecimals, integer},
+        {kPropertyHintSuffix, text},
+        {kPropertyHintXfrmUniformScale, boolean},
+        {kPropertyHintXfrmCollapsibleScale, boolean},
+        {kPropertyHintUseNativeDialogs, boolean},
     };
-    return s_readers;
+    return s_forms;
+}
+
+const QMap<QString, HintForm> &hostForms()
+{
+    const HintForm conditions{readConditions, writePlain};
+    const HintForm bound{readText, writePlain};
+    static const QMap<QString, HintForm> s_forms{
+        {kHostHintVisibleWhen, conditions},
+        {kHostHintEnabledWhen, conditions},
+        {kHostHintMinimumFollows, bound},
+        {kHostHintMaximumFollows, bound},
+    };
+    return s_forms;
+}
+
+HintForm hintForm(const QString &key)
+{
+    return vocabularyForms().value(key, hostForms().value(key));
 }
 
 } // namespace
 
 const QStringList &vocabularyHints()
 {
-    static const QStringList s_keys = hintReaders().keys();
+    static const QStringList s_keys = vocabularyForms().keys();
     return s_keys;
 }
 
 std::optional<QVariant> hintFromJson(const QString &key, const QJsonValue &json,
                                      ConversionError &error)
 {
-    const HintReader reader = hintReaders().value(key);
-    return reader ? reader(json, error) : std::optional(json.toVariant());
+    const HintReader read = hintForm(key).read;
+    return read ? read(json, error) : std::optional(json.toVariant());
+}
+
+QJsonValue hintToJson(const QString &key, const QVariant &value)
+{
+    const HintWriter write = hintForm(key).write;
+    return write ? write(value) : writePlain(value);
 }
 
 } // namespace Tessark::PropertyHost

@@ -1,8 +1,23 @@
 #include "host/ProblemCollector_p.h"
 
+#include "host/ListKeys_p.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace Tessark::PropertyHost {
+
+namespace {
+
+/// The row of a property list that a pointer leads to or into, or -1.
+int rowOfPointer(const QString &pointer)
+{
+    bool ok = false;
+    const int row = pointer.section(QLatin1Char('/'), 2, 2).toInt(&ok);
+    return ok && pointer.section(QLatin1Char('/'), 1, 1) == kKeyProperties ? row : -1;
+}
+
+} // namespace
 
 QString childPointer(const QString &pointer, const QString &key)
 {
@@ -15,6 +30,11 @@ QString childPointer(const QString &pointer, const QString &key)
 QString childPointer(const QString &pointer, int index)
 {
     return pointer + QLatin1Char('/') + QString::number(index);
+}
+
+QString rowPointer(int row)
+{
+    return childPointer(childPointer(QString(), kKeyProperties), row);
 }
 
 void ProblemCollector::error(const QString &pointer, const QString &message)
@@ -46,6 +66,19 @@ QVector<Problem> ProblemCollector::take()
     m_unlistedErrors = 0;
     m_unlistedWarnings = 0;
     return std::exchange(m_problems, {});
+}
+
+QVector<Problem> ProblemCollector::take(const std::function<QString(int)> &nameOf)
+{
+    for (Problem &problem : m_problems) {
+        problem.row = rowOfPointer(problem.pointer);
+        if (problem.row >= 0)
+            problem.name = nameOf(problem.row);
+    }
+    std::stable_sort(
+        m_problems.begin(), m_problems.end(),
+        [](const Problem &left, const Problem &right) { return left.row < right.row; });
+    return take();
 }
 
 void ProblemCollector::add(Problem::Severity severity, const QString &pointer,

@@ -34,6 +34,7 @@ struct PropertyListResult
  * warning; so register editors of your own types in PropertyEditorRegistry before. A row with a bad
  * range, default or hint is read without it, and without the textures that cannot be read. A row that is no object, or has no usable type or
  * name, is left out, and so is the second row of a name; structural rows stay in without their name.
+ * A rule with a mistake stays in the list, where RuleEngine passes over it.
  *
  * Of a stranger's list these are errors and left out as well, and listed before all others: pictures
  * outside of folder, wherever links lead, and pictures that can refer to other files, such as SVG;
@@ -44,5 +45,12 @@ struct PropertyListResult
 TESSARK_PROPERTYHOST_EXPORT PropertyListResult
 readPropertyList(const QByteArray &json, const QString &folder = QString(),
                  ListOrigin origin = ListOrigin::Trusted);
+
+/// The same, telling also what does no harm but has no effect: hints that no editor of the row's
+/// type reads. Together these are the problems of PropertyList::validate(), and those of rows that
+/// cannot be read.
+TESSARK_PROPERTYHOST_EXPORT PropertyListResult
+checkPropertyList(const QByteArray &json, const QString &folder = QString(),
+                  ListOrigin origin = ListOrigin::Trusted);
 
 } // namespace Tessark::PropertyHost

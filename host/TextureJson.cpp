@@ -92,6 +92,23 @@ std::optional<TextureChoice> textureFromHintEntry(const QJsonValue &json, const 
     return readTexture(json.toString(), json.toString(), folder, error);
 }
 
+QJsonValue texturesToJson(const QVariant &textures)
+{
+    QJsonArray result;
+    const QVariantList list = textures.toList();
+    for (const QVariant &entry : list) {
+        const auto texture = entry.value<TextureChoice>();
+        const QString path = pictureToJson(texture.image).toString();
+        if (path.isEmpty())
+            return QJsonValue::Undefined;
+        if (path == texture.name)
+            result.append(path);
+        else
+            result.append(QJsonObject{{kKeyName, texture.name}, {kKeyFile, path}});
+    }
+    return result;
+}
+
 std::optional<QVariant> textureFromJson(const PropertyUI::Property &property,
                                         const QJsonValue &json, const QString &folder,
                                         ConversionError &error)

@@ -21,6 +21,10 @@ namespace Tessark::PropertyHost {
 std::optional<PropertyUI::TextureChoice>
 textureFromHintEntry(const QJsonValue &json, const QString &folder, ConversionError &error);
 
+/// The hint "textures" (a QVariantList of TextureChoice) as an array of such entries; undefined when
+/// the picture of one was not read from a file.
+QJsonValue texturesToJson(const QVariant &textures);
+
 /// The value of a "texture" property (TextureChoice) from the name of a texture in its hint or a
 /// path; an empty text and null give a choice without name.
 std::optional<QVariant> textureFromJson(const PropertyUI::Property &property,

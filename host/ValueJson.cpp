@@ -268,18 +268,6 @@ QJsonValue vectorToJson(const QVector4D &vector, int count)
     return toJsonArray(numbers);
 }
 
-QJsonValue colorToJson(const QVariant &value, Alpha alpha)
-{
-    const QColor color = value.value<QColor>().toRgb();
-    if (!color.isValid())
-        return QJsonValue::Undefined;
-    QVector<double> fractions{color.redF(), color.greenF(), color.blueF()};
-    if (alpha == Alpha::With)
-        fractions.append(color.alphaF());
-    std::transform(fractions.begin(), fractions.end(), fractions.begin(), shortestFraction);
-    return toJsonArray(fractions);
-}
-
 QJsonValue matrixToJson(const QVariant &value)
 {
     const auto matrix = value.value<Matrix>();
@@ -437,9 +425,9 @@ QJsonValue valueToJson(const Property &property, const QVariant &value)
     case ValueKind::Vector4:
         return vectorToJson(value.value<QVector4D>(), 4);
     case ValueKind::Color:
-        return colorToJson(value, Alpha::With);
+        return colorToJson(value.value<QColor>(), Alpha::With);
     case ValueKind::OpaqueColor:
-        return colorToJson(value, Alpha::Without);
+        return colorToJson(value.value<QColor>(), Alpha::Without);
     case ValueKind::Matrix:
         return matrixToJson(value);
     case ValueKind::Picture:
@@ -526,6 +514,18 @@ QVariant initialValue(const Property &property)
     if (kind == ValueKind::Number)
         return numbers.first();
     return isVector(kind) ? vectorVariant(numbers) : value;
+}
+
+QJsonValue colorToJson(const QColor &value, Alpha alpha)
+{
+    const QColor color = value.toRgb();
+    if (!color.isValid())
+        return QJsonValue::Undefined;
+    QVector<double> fractions{color.redF(), color.greenF(), color.blueF()};
+    if (alpha == Alpha::With)
+        fractions.append(color.alphaF());
+    std::transform(fractions.begin(), fractions.end(), fractions.begin(), shortestFraction);
+    return toJsonArray(fractions);
 }
 
 bool isSameValue(const Property &property, const QVariant &left, const QVariant &right)

@@ -18,6 +18,9 @@ namespace Tessark::PropertyHost {
 std::optional<QVariant> convertValue(const PropertyUI::Property &property, const QJsonValue &json,
                                      const QString &folder, ConversionError &error);
 
+/// The fractions of a colour, with as few digits as give the same colour again.
+QJsonValue colorToJson(const QColor &value, Alpha alpha);
+
 /// The value that a property without default starts with: its type's own, brought into its range.
 QVariant initialValue(const PropertyUI::Property &property);
 

@@ -179,6 +179,10 @@ void tst_PropertyListSchema::schemaNamesEveryHint()
         kPropertyHintXfrmCollapsibleScale,
         kPropertyHintUseNativeDialogs,
         kHostHintTextures,
+        kHostHintVisibleWhen,
+        kHostHintEnabledWhen,
+        kHostHintMinimumFollows,
+        kHostHintMaximumFollows,
     };
     const QJsonObject named = definition("hints").value(QLatin1String("properties")).toObject();
 

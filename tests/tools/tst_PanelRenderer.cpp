@@ -39,6 +39,7 @@ private Q_SLOTS:
     void foldersAreNotMade();
     void failureStopsAfterThePicturesWritten();
     void emptyListIsDrawn();
+    void rulesHold();
 
 private:
     void add(const QString &type, const char *name);
@@ -276,6 +277,19 @@ void tst_PanelRenderer::emptyListIsDrawn()
 
     QCOMPARE(pictures.error, QString());
     QVERIFY(!QImage(path("panel.png")).isNull());
+}
+
+void tst_PanelRenderer::rulesHold()
+{
+    m_list.boolean(QStringLiteral("on"), QString());
+    m_list.tabs([this] {
+        m_list.tab(QStringLiteral("A"), [] {});
+        m_list.tab(QStringLiteral("B"), [] {}).visibleWhen(QStringLiteral("on"));
+        m_list.tab(QStringLiteral("C"), [] {}).visibleWhen(QStringLiteral("not on"));
+    });
+
+    QCOMPARE(names(render()),
+             (QStringList{QStringLiteral("panel.png"), QStringLiteral("panel-c.png")}));
 }
 
 QTEST_MAIN(tst_PanelRenderer)

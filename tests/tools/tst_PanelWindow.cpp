@@ -24,6 +24,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -80,6 +81,8 @@ private Q_SLOTS:
     void modifiedMarkFollowsTheValues();
     void wholePanelFitsTheSizeHint();
     void windowMayBeDeletedWhenFinished();
+    void rulesHold();
+    void valueCutByARuleIsNoEdit();
 
 private:
     void show();
@@ -714,6 +717,46 @@ void tst_PanelWindow::windowMayBeDeletedWhenFinished()
     click(button("Cancel"));
 
     QTRY_COMPARE(destroyed.size(), 1);
+}
+
+void tst_PanelWindow::rulesHold()
+{
+    m_list->string(QStringLiteral("ruled"), QString()).visibleWhen(QStringLiteral("loop"));
+    m_store->reset(*m_list);
+    show();
+    QLineEdit *const ruled = m_window->findChildren<QLineEdit *>().constLast();
+    const bool before = ruled->isVisible();
+    QCOMPARE(before, loop()->isChecked());
+
+    click(loop());
+    QCOMPARE(ruled->isVisible(), !before);
+    m_window->undo();
+    QCOMPARE(ruled->isVisible(), before);
+    m_window->redo();
+    QCOMPARE(ruled->isVisible(), !before);
+    m_window->resetAll();
+    QCOMPARE(ruled->isVisible(), before);
+}
+
+/// As of a value that was outside of the range from the start: what is shown does not replace it.
+void tst_PanelWindow::valueCutByARuleIsNoEdit()
+{
+    m_list->integer(QStringLiteral("most"), QString()).range(0, 100).defaultValue(50);
+    m_list->integer(QStringLiteral("ruled"), QString())
+        .range(0, 100)
+        .defaultValue(40)
+        .maximumFollows(QStringLiteral("most"));
+    m_store->reset(*m_list);
+    show();
+    const auto fields = m_window->findChildren<QSpinBox *>();
+    typeOver(fields.first(), "30");
+    QCOMPARE(fields.last()->value(), 30);
+
+    title()->setFocus();
+    m_window->save();
+
+    QCOMPARE(saved().value(QLatin1String("most")).toInt(), 30);
+    QCOMPARE(saved().value(QLatin1String("ruled")).toInt(), 40);
 }
 
 QTEST_MAIN(tst_PanelWindow)

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void checkOfBuiltInListFindsNoProblem();
     void checkOfWarningsOnlySucceeds();
     void checkListsEveryProblem();
+    void checkTellsUnreadHintsAndBadRules();
     void checkTellsTheLineOfASyntaxError();
     void checkLooksAtTheValuesToo();
     void badInputStopsEveryTask_data();
@@ -320,6 +321,23 @@ void tst_property_panel::checkListsEveryProblem()
                               "list.json: error: /properties/1: ", "error: /properties/2/"})
         QVERIFY2(result.error.contains(place), result.error.constData());
     QVERIFY(result.output.isEmpty());
+}
+
+void tst_property_panel::checkTellsUnreadHintsAndBadRules()
+{
+    write("list.json", R"({"version": 1, "properties": [
+        {"name": "a", "type": "bool", "hints": {"suffix": " m"}},
+        {"name": "b", "type": "string", "hints": {"visible_when": "aa"}}
+    ]})");
+
+    const Result result = runPlain("list.json --check");
+
+    QCOMPARE(result.status, 2);
+    for (const char *problem :
+         {"list.json: warning: /properties/0/hints/suffix: no editor reads this hint",
+          "list.json: error: /properties/1/hints/visible_when: character 1: there is no property "
+          "\"aa\" (did you mean \"a\"?)"})
+        QVERIFY2(result.error.contains(problem), result.error.constData());
 }
 
 void tst_property_panel::checkTellsTheLineOfASyntaxError()

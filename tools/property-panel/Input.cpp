@@ -44,11 +44,14 @@ void note(const QVector<PropertyHost::Problem> &problems, const QString &path, I
     input.hasErrors = input.hasErrors || PropertyHost::hasErrors(problems);
 }
 
-void readList(const QString &path, PropertyHost::ListOrigin origin, Input &input)
+void readList(const QString &path, PropertyHost::ListOrigin origin, Options::Task task,
+              Input &input)
 {
+    const auto read = task == Options::Task::Check ? PropertyHost::checkPropertyList
+                                                   : PropertyHost::readPropertyList;
     QVector<PropertyHost::Problem> problems;
     if (const auto json = readFile(path, problems)) {
-        auto result = PropertyHost::readPropertyList(*json, folderOf(path), origin);
+        auto result = read(*json, folderOf(path), origin);
         input.list = std::move(result.list);
         problems += result.problems;
     }
@@ -75,7 +78,7 @@ Input readInput(const Options &options)
     readList(isBuiltIn ? kBuiltInList : options.listPath,
              isBuiltIn || options.trusted ? PropertyHost::ListOrigin::Trusted
                                           : PropertyHost::ListOrigin::Stranger,
-             input);
+             options.task, input);
     input.store = std::make_unique<PropertyHost::PropertyStore>();
     input.store->reset(input.list);
     if (!options.valuesPath.isEmpty())

@@ -6,6 +6,7 @@
 
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <host/RuleEngine.h>
 #include <host/TextsAsWritten.h>
 #include <property/PropertyUI.h>
 
@@ -142,8 +143,11 @@ RenderedPictures renderPanel(const PropertyHost::PropertyList &list,
                              PropertyHost::PropertyStore &store, const QString &path,
                              const QSize &size)
 {
-    auto *const panel = new PropertyUI::PropertyEditorPanel(list.properties(), &store, nullptr);
+    PropertyHost::RuleEngine rules(list, &store);
+    auto *const panel =
+        new PropertyUI::PropertyEditorPanel(list.properties(), rules.delegate(), nullptr);
     PropertyHost::showTextsAsWritten(*panel);
+    rules.attach(panel);
     panel->updateUI();
     const TextureChoices textures(*panel, &store, list.folder());
     const std::unique_ptr<QWidget> sheet = makeSheet(panel); // takes the panel over
@@ -160,7 +164,7 @@ RenderedPictures renderPanel(const PropertyHost::PropertyList &list,
     for (QTabWidget *tabs : groups) {
         const int shown = tabs->currentIndex();
         for (int page = 0; page < tabs->count(); ++page) {
-            if (page == shown)
+            if (page == shown || !tabs->isTabVisible(page))
                 continue;
             const QVector<Step> way = wayTo(tabs, page);
             const QVector<Step> before = turnTo(way);

@@ -9,6 +9,7 @@
 #include <core/KitColors.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <host/RuleEngine.h>
 #include <host/TextsAsWritten.h>
 #include <host/UndoDelegate.h>
 #include <host/ValueJson.h>
@@ -72,8 +73,9 @@ PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::P
     , m_writer(writer)
     , m_stack(new QUndoStack(this))
     , m_delegate(new PropertyHost::UndoDelegate(store, m_stack, this))
+    , m_rules(new PropertyHost::RuleEngine(list, m_delegate, this))
     , m_panel(makePanel())
-    , m_textures(new TextureChoices(*m_panel, m_delegate, list.folder(), this))
+    , m_textures(new TextureChoices(*m_panel, m_rules->delegate(), list.folder(), this))
     , m_pending(m_panel)
 {
     setWindowTitle(list.title() + QStringLiteral("[*]"));
@@ -186,11 +188,12 @@ void PanelWindow::keyPressEvent(QKeyEvent *event)
 PropertyUI::PropertyEditorPanel *PanelWindow::makePanel()
 {
     auto *const panel =
-        new PropertyUI::PropertyEditorPanel(m_list.properties(), m_delegate, nullptr);
+        new PropertyUI::PropertyEditorPanel(m_list.properties(), m_rules->delegate(), nullptr);
     PropertyHost::showTextsAsWritten(*panel);
     foldGroupsOnTabPages(*panel);
     panel->updateUI();
-    widenToContents(*panel);
+    widenToContents(*panel); // with the rows that rules hide at first
+    m_rules->attach(panel);
     return panel;
 }
 
@@ -264,6 +267,8 @@ void PanelWindow::followStack()
     connect(m_stack, &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
     connect(m_textures, &TextureChoices::filesDropped, this, &PanelWindow::showProblems);
+    connect(m_rules, &PropertyHost::RuleEngine::rangeChanged, this,
+            [this](PropertyUI::Property *property) { m_pending.noteShownValue(property); });
     connect(qApp, &QApplication::focusChanged, this, [this] { m_pending.commit(); });
 }
 

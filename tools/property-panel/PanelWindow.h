@@ -24,6 +24,7 @@ class PropertyEditorPanel;
 namespace Tessark::PropertyHost {
 class PropertyList;
 class PropertyStore;
+class RuleEngine;
 class UndoDelegate;
 } // namespace Tessark::PropertyHost
 
@@ -39,8 +40,8 @@ class TextureChoices;
  * program has written the file meanwhile, it asks before it replaces that. Cancel,
  * Escape and closing the window are the same; they ask first when there are unsaved changes. Text
  * that was typed but not committed counts as a change everywhere. Pictures dropped on a texture row
- * are added to it; the window tells which could not be. The list and the store must
- * outlive the window.
+ * are added to it; the window tells which could not be. The list's rules hold. The list and the store
+ * must outlive the window.
  */
 class PanelWindow : public QWidget
 {
@@ -98,6 +99,7 @@ private:
     ValuesWriter m_writer;
     QUndoStack *m_stack;
     PropertyHost::UndoDelegate *m_delegate;
+    PropertyHost::RuleEngine *m_rules; // in front of m_delegate
     PropertyUI::PropertyEditorPanel *m_panel;
     TextureChoices *m_textures;
     QScrollArea *m_scrollArea = nullptr;

@@ -46,6 +46,14 @@ void PendingEdits::noteShownValues()
     }
 }
 
+void PendingEdits::noteShownValue(const PropertyUI::Property *property)
+{
+    for (Shown &shown : m_shown) {
+        if (shown.editor && shown.editor->editedProperty() == property)
+            shown.value = shown.editor->value();
+    }
+}
+
 bool PendingEdits::isEmpty() const
 {
     return std::none_of(m_shown.begin(), m_shown.end(),

@@ -5,6 +5,7 @@
 #include <QVector>
 
 namespace Tessark::PropertyUI {
+class Property;
 class PropertyEditor;
 class PropertyEditorPanel;
 } // namespace Tessark::PropertyUI
@@ -26,6 +27,9 @@ public:
     /// Takes what the editors show now for the values of the panel's delegate; to be called after
     /// each refresh of the panel.
     void noteShownValues();
+
+    /// The same for the rows of one property, whose range changed and may cut what they show.
+    void noteShownValue(const PropertyUI::Property *property);
 
     bool isEmpty() const;
 

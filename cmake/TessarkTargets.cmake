@@ -108,8 +108,14 @@ endfunction()
 # environment of the caller says. Nothing is suppressed.
 function(tessark_set_test_environment test)
     cmake_parse_arguments(arg "" "TIMEOUT" "" ${ARGN})
+    # Without a folder of its own, Qt warns; it must be closed to others.
+    set(runtime ${PROJECT_BINARY_DIR}/tests/runtime)
+    file(MAKE_DIRECTORY ${runtime})
+    file(CHMOD ${runtime} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+    set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=${runtime}
+        ASAN_OPTIONS=detect_leaks=1 LSAN_OPTIONS=)
     set_tests_properties(${test} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS="
+        ENVIRONMENT "${environment}"
         TIMEOUT ${arg_TIMEOUT}
     )
 endfunction()

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "host/Problem.h"
+#include "host/PropertyMetaType.h"
 
 #include <property/IPropertyEditorDelegate.h>
-#include <property/Property.h>
 
 #include <QByteArray>
 #include <QHash>
 #include <QJsonObject>
-#include <QMetaType>
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -94,5 +93,3 @@ private:
 };
 
 } // namespace Tessark::PropertyHost
-
-Q_DECLARE_METATYPE(Tessark::PropertyUI::Property *)

@@ -60,7 +60,7 @@ public:
     QVariant value(Property *property) override
     {
         const QPointer<RuleEngine> engine = m_engine;
-        const QVariant value = inner() ? inner()->value(property) : QVariant();
+        QVariant value = inner() ? inner()->value(property) : QVariant();
         if (engine)
             engine->valueSeen(property, value);
         return value;

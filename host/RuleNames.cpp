@@ -32,7 +32,7 @@ RuleValue valueOfJson(const QJsonValue &json)
         return {};
     QVector<double> numbers;
     const QJsonArray array = json.toArray();
-    for (const QJsonValue &entry : array)
+    for (const auto &entry : array)
         numbers.append(entry.toDouble());
     return numbers;
 }

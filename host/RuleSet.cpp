@@ -27,7 +27,7 @@ constexpr int kMaximumNamedRows = 8; // of a circle
 struct HintUse
 {
     QLatin1String hint;
-    RuleUse use;
+    RuleUse use = RuleUse::Visible;
 };
 
 const HintUse kHintUses[] = {
@@ -52,7 +52,9 @@ QStringList textsOf(const QVariant &hint)
 {
     if (hint.userType() == QMetaType::QString)
         return {hint.toString()};
-    return hint.userType() == QMetaType::QStringList ? hint.toStringList() : QStringList();
+    if (hint.userType() == QMetaType::QStringList)
+        return hint.toStringList();
+    return {};
 }
 
 bool hasRuleHint(const CheckedRow &row)

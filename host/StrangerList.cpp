@@ -268,7 +268,8 @@ bool Filter::isAllowedDefault(const QJsonObject &row, const QString &pointer)
     if (type != kPropertyTypeImage && type != kPropertyTypeTexture)
         return true;
     const QJsonArray textures = row.value(kKeyHints).toObject().value(kHostHintTextures).toArray();
-    for (const QJsonValue &texture : textures) {
+    for (const auto &entry : textures) {
+        const QJsonValue texture = entry;
         const QJsonObject object = texture.toObject();
         const QJsonValue file = texture.isObject() ? object.value(kKeyFile) : texture;
         if (type == kPropertyTypeTexture

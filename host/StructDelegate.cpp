@@ -1,7 +1,5 @@
 #include "host/StructDelegate.h"
 
-#include "host/PropertyStore.h" // declares the metatype of Property *
-
 #include <QPointer>
 
 #include <algorithm>
@@ -45,10 +43,10 @@ QVariant StructDelegate::value(Property *property)
 }
 
 PropertyRow StructDelegate::addMember(const QString &type, const QString &name,
-                                      const QString &label, Member member)
+                                      const QString &label, const Member &member)
 {
     const PropertyRow row = m_list.add(type, name, label);
-    m_members.insert(&row.property(), std::move(member));
+    m_members.insert(&row.property(), member);
     return row;
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/PropertyHostExport.h"
 #include "host/PropertyList.h"
+#include "host/PropertyMetaType.h"
 
 #include <property/IPropertyEditorDelegate.h>
 
@@ -56,7 +57,7 @@ public:
 
     /// Appends a row for a member. An empty name is replaced by one made of the label.
     PropertyRow addMember(const QString &type, const QString &name, const QString &label,
-                          Member member);
+                          const Member &member);
     PropertyRow addAction(const QString &name, const QString &label,
                           std::function<void()> triggered);
 

@@ -188,8 +188,7 @@ QStringList componentNames(ValueKind kind)
     const QString y = QStringLiteral("y");
     const QString width = QStringLiteral("width");
     const QString height = QStringLiteral("height");
-    const QStringList colors{QStringLiteral("red"), QStringLiteral("green"),
-                             QStringLiteral("blue")};
+    QStringList colors{QStringLiteral("red"), QStringLiteral("green"), QStringLiteral("blue")};
     switch (kind) {
     case ValueKind::Vector2:
     case ValueKind::Point:

@@ -97,7 +97,7 @@ private:
         int width = -1;  // size hint as measured, then the width given in the row
         int height = -1; // size hint as measured
         Qt::Alignment alignment;
-        bool isRowItem; // made by the layout for a widget
+        bool isRowItem = false; // made by the layout for a widget
 
         bool isLabel() const { return (options & NewRow) && !(options & FullWidth); }
         bool expandsHorizontally() const;

@@ -55,7 +55,9 @@ Subject string()
     Subject subject = subjectOf(QStringLiteral("string"), kPropertyTypeString,
                                 {QStringLiteral("one"), QStringLiteral("two")});
     subject.gestures = typingGestures({kSet, kChanged});
-    for (int i = 1; i < subject.gestures.size(); ++i)
+    // Return leaves the field in the end too, and Qt 5 says then once more that the edit ended.
+    constexpr int kFirstThatEndsWithTheFocus = QT_VERSION < QT_VERSION_CHECK(6, 0, 0) ? 0 : 1;
+    for (int i = kFirstThatEndsWithTheFocus; i < subject.gestures.size(); ++i)
         subject.gestures[i].laterOnly = {
             {QStringLiteral("deletes the widget"),
              QStringLiteral("QLineEdit goes on with itself where the focus ends an edit")}};

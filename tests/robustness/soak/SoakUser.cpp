@@ -101,6 +101,15 @@ QVector<QWidget *> visibleWidgetsIn(QWidget *top)
     return result;
 }
 
+/// A click on a key of a window that may be gone when the key comes up.
+void clickKey(const QWidget *popup, Qt::Key key)
+{
+    const QPointer<QWindow> window(popup->windowHandle());
+    QTest::keyPress(window, key);
+    if (window)
+        QTest::keyRelease(window, key);
+}
+
 } // namespace
 
 SoakUser::SoakUser(SoakHost *host, QWidget *window, QScrollArea *scrollArea, Random &random)
@@ -262,19 +271,23 @@ QString SoakUser::usePopup(QWidget *popup)
     const QString words = QStringLiteral(" in popup %1").arg(nameOf(popup));
     const int choice = below(m_random, 100);
     if (choice < 30) {
-        send([popup] { QTest::keyClick(popup->windowHandle(), Qt::Key_Escape); });
+        send([popup] { clickKey(popup, Qt::Key_Escape); });
         return QStringLiteral("escape") + words;
     }
     if (choice < 70) {
         const Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return};
         const Qt::Key key = keys[below(m_random, 3)];
-        send([popup, key] { QTest::keyClick(popup->windowHandle(), key); });
+        send([popup, key] { clickKey(popup, key); });
         return QStringLiteral("key %1").arg(key, 0, 16) + words;
     }
     const QPoint place(below(m_random, popup->width()), below(m_random, popup->height()));
-    QWindow *const window = popup->windowHandle();
+    const QPointer<QWindow> window(popup->windowHandle());
     m_pressedIn.clear();
-    send([window, place] { QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, place); });
+    send([window, place] {
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
+        if (window)
+            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, place);
+    });
     return QStringLiteral("click") + words;
 }
 

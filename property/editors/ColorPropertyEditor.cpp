@@ -65,8 +65,10 @@ ColorPropertyEditor::ColorPropertyEditor(Property *property)
 /// The control dies a moment later, and the widgets still report to it until then.
 ColorPropertyEditor::~ColorPropertyEditor()
 {
-    if (m_colorControl)
-        m_colorControl->setClient(nullptr);
+    if (!m_colorControl)
+        return;
+    m_colorControl->setClient(nullptr);
+    m_colorControl->disconnect(this);
 }
 
 void ColorPropertyEditor::setValue(const QVariant &value)

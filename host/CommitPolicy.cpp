@@ -54,8 +54,6 @@ std::optional<CommitMode> CommitMode::fromString(const QString &text)
 CommitPolicy::CommitPolicy(IPropertyEditorDelegate *delegate, QObject *parent)
     : QObject(parent)
     , m_delegate(delegate)
-    , m_delegateObject(dynamic_cast<QObject *>(delegate))
-    , m_delegateIsObject(!m_delegateObject.isNull())
 {
     m_clock.start();
     m_timer.setSingleShot(true);
@@ -124,8 +122,8 @@ void CommitPolicy::flush()
     const Pending edit = *std::exchange(m_pending, std::nullopt);
     if (mode(edit.property).interval() > 0)
         m_passedAt.insert(edit.property, m_clock.elapsed());
-    if (delegate())
-        delegate()->setValue(edit.property, edit.value, edit.flags);
+    if (m_delegate.get())
+        m_delegate.get()->setValue(edit.property, edit.value, edit.flags);
 }
 
 void CommitPolicy::forget(const Property *property)
@@ -160,12 +158,7 @@ QVariant CommitPolicy::value(Property *property)
 {
     if (isPending(property))
         return m_pending->value;
-    return delegate() ? delegate()->value(property) : QVariant();
-}
-
-IPropertyEditorDelegate *CommitPolicy::delegate() const
-{
-    return m_delegateIsObject && !m_delegateObject ? nullptr : m_delegate;
+    return m_delegate.get() ? m_delegate.get()->value(property) : QVariant();
 }
 
 bool CommitPolicy::isPending(const Property *property) const

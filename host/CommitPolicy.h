@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/DelegatePointer.h"
 #include "host/PropertyHostExport.h"
 
 #include <property/IPropertyEditorDelegate.h>
@@ -122,16 +123,13 @@ private:
         ChangeFlags flags;
     };
 
-    PropertyUI::IPropertyEditorDelegate *delegate() const;
     bool isPending(const PropertyUI::Property *property) const;
     const PropertyUI::Property *runningProperty() const;
     int waitOf(const PropertyUI::Property *property) const;
     void beginRun(PropertyUI::PropertyEditor *editor);
     void endRun();
 
-    PropertyUI::IPropertyEditorDelegate *m_delegate;
-    QPointer<QObject> m_delegateObject; // m_delegate as a QObject, if it is one
-    bool m_delegateIsObject;
+    DelegatePointer m_delegate;
     CommitMode m_defaultMode = CommitMode::live();
     QHash<const PropertyUI::Property *, CommitMode> m_modes;
     QHash<const PropertyUI::Property *, qint64> m_passedAt; // milliseconds, of limited properties

@@ -1,5 +1,6 @@
 #include "host/RuleEngine.h"
 
+#include "host/DelegatePointer.h"
 #include "host/FollowedBounds_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/PropertyList.h"
@@ -37,15 +38,10 @@ public:
     Front(RuleEngine *engine, IPropertyEditorDelegate *delegate)
         : m_engine(engine)
         , m_delegate(delegate)
-        , m_delegateObject(dynamic_cast<QObject *>(delegate))
-        , m_delegateIsObject(!m_delegateObject.isNull())
     {
     }
 
-    IPropertyEditorDelegate *inner() const
-    {
-        return m_delegateIsObject && !m_delegateObject ? nullptr : m_delegate;
-    }
+    IPropertyEditorDelegate *inner() const { return m_delegate.get(); }
 
     void setValue(Property *property, const QVariant &value, ChangeFlags flags) override
     {
@@ -68,9 +64,7 @@ public:
 
 private:
     QPointer<RuleEngine> m_engine;
-    IPropertyEditorDelegate *m_delegate;
-    QPointer<QObject> m_delegateObject; // m_delegate as a QObject, if it is one
-    bool m_delegateIsObject;
+    DelegatePointer m_delegate;
 };
 
 /// A rule with what it gave when it was evaluated last.

@@ -82,23 +82,21 @@ private:
 UndoDelegate::UndoDelegate(PropertyUI::IPropertyEditorDelegate *delegate, QUndoStack *stack,
                            QObject *parent)
     : QObject(parent)
+    , m_delegate(delegate)
     , m_stack(stack)
 {
-    setDelegate(delegate);
 }
 
 UndoDelegate::~UndoDelegate() = default;
 
 PropertyUI::IPropertyEditorDelegate *UndoDelegate::delegate() const
 {
-    return m_delegateIsObject && !m_delegateObject ? nullptr : m_delegate;
+    return m_delegate.get();
 }
 
 void UndoDelegate::setDelegate(PropertyUI::IPropertyEditorDelegate *delegate)
 {
-    m_delegate = delegate;
-    m_delegateObject = dynamic_cast<QObject *>(delegate);
-    m_delegateIsObject = !m_delegateObject.isNull();
+    m_delegate = DelegatePointer(delegate);
 }
 
 void UndoDelegate::setValue(PropertyUI::Property *property, const QVariant &value,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/DelegatePointer.h"
 #include "host/PropertyHostExport.h"
 
 #include <property/IPropertyEditorDelegate.h>
@@ -62,9 +63,7 @@ private:
     void restore(PropertyUI::Property *property, const QVariant &value);
     void record(PropertyUI::Property *property, const QVariant &before, const QVariant &after);
 
-    PropertyUI::IPropertyEditorDelegate *m_delegate = nullptr;
-    QPointer<QObject> m_delegateObject; // m_delegate as a QObject, if it is one
-    bool m_delegateIsObject = false;
+    DelegatePointer m_delegate;
     QPointer<QUndoStack> m_stack;
     quint64 m_run = 0; // counts interactive runs, so that a command merges only changes of its own
 };

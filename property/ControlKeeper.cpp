@@ -56,6 +56,8 @@ ControlKeeper::ControlKeeper(QWidget *panel)
 ControlKeeper::~ControlKeeper()
 {
     s_waiting.removeOne(this);
+    if (s_waiting.isEmpty())
+        qRemovePostRoutine(deleteWaiting);
     for (const QPointer<QWidget> &control : std::as_const(m_kept)) {
         if (!control)
             continue;

@@ -33,7 +33,9 @@ class NumberNames;
  * numbers are those that the fields show. A refresh by the host leaves a text that is being typed
  * alone.
  *
- * The panel may be deleted at any time, in callbacks too; deleting this object leaves the plain panel.
+ * The panel may be deleted at any time, in callbacks too; but where a host itself moves the focus away
+ * from an expression, or a mistake is left with the mouse, only by deleteLater(). Deleting this object
+ * leaves the plain panel.
  */
 class TESSARK_PROPERTYHOST_EXPORT NumberEntry : public QObject
 {

@@ -4,12 +4,14 @@
 #include "host/NumberNames_p.h"
 #include "host/NumberPreview_p.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QValidator>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -23,6 +25,11 @@ namespace {
 bool isConfirmation(int key)
 {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool isTab(int key)
+{
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab;
 }
 
 bool isStep(int key)
@@ -124,11 +131,39 @@ private:
     QPointer<const QValidator> m_numbers;
 };
 
+/// Sees presses of the mouse before they move the focus: while it moves, Qt works with the widget
+/// that gets it, and the host could delete that in what a result tells it.
+class NumberField::PressWatch final : public QObject
+{
+public:
+    explicit PressWatch(NumberField &field)
+        : m_field(field)
+    {
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QWidget *const spinBox = m_field.m_field.spinBox;
+        if (event->type() != QEvent::MouseButtonPress || !spinBox
+            || watched != spinBox->window()->windowHandle())
+            return false;
+        const QPoint position = static_cast<const QMouseEvent *>(event)->pos();
+        const QPointer<QObject> watchedAlive(watched);
+        if (!spinBox->rect().contains(spinBox->mapFrom(spinBox->window(), position)))
+            m_field.pressedElsewhere();
+        return !watchedAlive;
+    }
+
+private:
+    NumberField &m_field;
+};
+
 NumberField::NumberField(const PanelField &field, const NumberNames &names, QObject *parent)
     : QObject(parent)
     , m_field(field)
     , m_names(names)
     , m_lineEdit(field.spinBox->findChild<QLineEdit *>())
+    , m_presses(std::make_unique<PressWatch>(*this))
 {
     if (!m_lineEdit)
         return;
@@ -139,6 +174,7 @@ NumberField::NumberField(const PanelField &field, const NumberNames &names, QObj
     // The field follows the text between these two.
     connect(m_lineEdit, &QLineEdit::textEdited, this, [this] { m_isEdited = true; });
     connect(m_lineEdit, &QLineEdit::textChanged, this, &NumberField::textChanged);
+    connect(field.spinBox, &QObject::destroyed, this, &NumberField::end);
     if (const auto *const integer = qobject_cast<QSpinBox *>(field.spinBox))
         connect(integer, qOverload<int>(&QSpinBox::valueChanged), this,
                 &NumberField::numberChanged);
@@ -152,8 +188,10 @@ NumberField::~NumberField()
     hidePreview();
     if (m_preview)
         m_preview->deleteLater(); // its owner is the panel
-    if (std::exchange(m_isActive, false))
+    if (m_isActive) {
+        setActive(false);
         showNumber();
+    }
     if (m_lineEdit && m_lineEdit->validator() == m_validator.get())
         m_lineEdit->setValidator(m_validator->numbers());
 }
@@ -164,7 +202,10 @@ bool NumberField::eventFilter(QObject *watched, QEvent *event)
     const QPointer<QObject> watchedAlive(watched);
     if (mayChangeText(event))
         noteHeld();
-    const bool isHandled = self && watchedAlive && watched == m_field.spinBox && handleEvent(event);
+    // A field that is being deleted loses the focus when it is but a widget.
+    const bool isField = self && watchedAlive && watched == m_field.spinBox
+                         && qobject_cast<QAbstractSpinBox *>(watched);
+    const bool isHandled = isField && handleEvent(event);
     // An event must not travel on to a field that the host has deleted.
     return isHandled || !watchedAlive;
 }
@@ -224,11 +265,21 @@ void NumberField::textChanged()
     m_wasEdited = m_wasEdited || m_typedNumber != current();
     m_text = m_lineEdit->text();
     m_cursor = m_lineEdit->cursorPosition();
-    m_isActive = !m_validator->isNumber(m_text, m_cursor);
+    setActive(!m_validator->isNumber(m_text, m_cursor));
     if (m_isActive)
         showResult();
     else
         hidePreview();
+}
+
+void NumberField::setActive(bool isActive)
+{
+    if (std::exchange(m_isActive, isActive) == isActive)
+        return;
+    if (isActive)
+        QCoreApplication::instance()->installEventFilter(m_presses.get());
+    else
+        QCoreApplication::instance()->removeEventFilter(m_presses.get());
 }
 
 /// By other means than an expression: the arrows, or the host.
@@ -282,13 +333,9 @@ bool NumberField::handleEvent(QEvent *event)
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         return handleKey(static_cast<QKeyEvent *>(event));
-    case QEvent::FocusIn:
-        QMetaObject::invokeMethod(this, &NumberField::restoreText, Qt::QueuedConnection);
-        return false;
     case QEvent::FocusOut:
-        // A menu of the field leaves the user with it, though the window may lose the focus too.
-        if (static_cast<const QFocusEvent *>(event)->reason() != Qt::PopupFocusReason
-            && !QApplication::activePopupWidget())
+        // A menu of the field leaves the user with it.
+        if (static_cast<const QFocusEvent *>(event)->reason() != Qt::PopupFocusReason)
             leave();
         return false;
     default:
@@ -300,11 +347,14 @@ bool NumberField::handleEvent(QEvent *event)
 /// would close the run, an arrow take the text away.
 bool NumberField::handleKey(QKeyEvent *event)
 {
+    const QPointer<NumberField> self(this);
     const bool confirms = isConfirmation(event->key());
     if (!m_isActive && confirms && event->type() == QEvent::KeyPress)
         m_isTyping = false;
+    if (m_isActive && isTab(event->key()) && event->type() == QEvent::KeyPress)
+        leave(); // before the focus moves, as with the mouse
     const bool cancels = event->key() == Qt::Key_Escape;
-    if (!m_isActive || (!confirms && !cancels && !isStep(event->key())))
+    if (!self || !m_isActive || (!confirms && !cancels && !isStep(event->key())))
         return false;
     event->accept();
     if (event->type() == QEvent::KeyPress && confirms)
@@ -341,6 +391,14 @@ void NumberField::leave()
         cancel();
 }
 
+/// Where the focus goes on with a mistake is not known yet: it may stay.
+void NumberField::pressedElsewhere()
+{
+    const NumberExpression expression = evaluate();
+    if (m_isActive && expression.isValid())
+        commit(expression.value());
+}
+
 void NumberField::cancel()
 {
     const std::optional<HeldValue> held = m_held;
@@ -360,7 +418,7 @@ void NumberField::commit(double number)
 
 void NumberField::end()
 {
-    m_isActive = false;
+    setActive(false);
     m_isTyping = false;
     hidePreview();
 }

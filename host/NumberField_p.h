@@ -38,6 +38,7 @@ public:
 
 private:
     class Validator;
+    class PressWatch;
 
     bool canExpress(const QString &text) const;
     bool isNoNumber(const QString &text) const;
@@ -45,6 +46,7 @@ private:
     void follow(bool isExpression);
 
     void textChanged();
+    void setActive(bool isActive);
     void numberChanged();
     void restoreText();
     void noteHeld();
@@ -53,6 +55,7 @@ private:
     bool handleKey(QKeyEvent *event);
     void confirm();
     void leave();
+    void pressedElsewhere();
     void cancel();
     void commit(double number);
     void end();
@@ -70,6 +73,7 @@ private:
     const PanelField m_field;
     const NumberNames &m_names;
     QPointer<QLineEdit> m_lineEdit;
+    std::unique_ptr<PressWatch> m_presses; // watches while the text is an expression
     std::unique_ptr<Validator> m_validator;
     QPointer<NumberPreview> m_preview;
     QString m_description; // the field's own, while a preview is shown

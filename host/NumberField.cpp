@@ -203,8 +203,7 @@ bool NumberField::eventFilter(QObject *watched, QEvent *event)
     if (mayChangeText(event))
         noteHeld();
     // A field that is being deleted loses the focus when it is but a widget.
-    const bool isField = self && watchedAlive && watched == m_field.spinBox
-                         && qobject_cast<QAbstractSpinBox *>(watched);
+    const bool isField = self && watchedAlive && qobject_cast<QAbstractSpinBox *>(watched);
     const bool isHandled = isField && handleEvent(event);
     // An event must not travel on to a field that the host has deleted.
     return isHandled || !watchedAlive;

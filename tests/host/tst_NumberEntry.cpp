@@ -888,6 +888,7 @@ void tst_NumberEntry::fieldWidgetDeleted()
     subject.type("gain", text("=2*3"));
 
     delete subject.field("gain")->parentWidget();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QAbstractSpinBox *const box = subject.type("count", text("=gain"));
 
     QCOMPARE(subject.previewText(), text("…"));

@@ -247,9 +247,11 @@ double NumberParser::parseNamed()
 double NumberParser::callFunction(const QString &name, int position)
 {
     const NumberFunction *const function = numberFunction(name);
-    if (!function)
+    if (!function) {
         fail(position, tr("There is no function named %1").arg(quoted(name)));
-    if (hasFailed() || !descend())
+        return 0.0;
+    }
+    if (!descend())
         return 0.0;
     const QVector<double> arguments = parseArguments();
     --m_depth;

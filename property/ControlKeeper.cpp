@@ -1,6 +1,7 @@
 #include "property/ControlKeeper_p.h"
 
 #include <QCoreApplication>
+#include <QSet>
 
 #include <utility>
 
@@ -9,7 +10,7 @@ namespace Tessark::PropertyUI {
 namespace {
 
 /// Those that wait for the event loop. One that none comes back to goes with the application.
-QVector<ControlKeeper *> s_waiting;
+QSet<ControlKeeper *> s_waiting;
 
 void deleteWaiting()
 {
@@ -29,33 +30,35 @@ QVector<QWidget *> controlsIn(const QObject &widget)
 
 } // namespace
 
-void ControlKeeper::watch(QWidget *panel, QWidget *widget)
+void ControlKeeper::watch(QWidget *widget)
 {
     if (!widget || !widget->parentWidget())
         return;
-    auto *const keeper = new ControlKeeper(panel);
-    // A widget announces its end while its children are still there.
-    connect(widget, &QObject::destroyed, keeper, [keeper](QObject *destroyed) {
-        for (QWidget *control : controlsIn(*destroyed))
-            keeper->keep(control);
-    });
-    connect(widget->parentWidget(), &QObject::destroyed, keeper,
-            [keeper, kept = QPointer<QWidget>(widget)](QObject *destroyed) {
-                if (kept && kept->parent() == destroyed)
-                    keeper->keep(kept);
-            });
+    auto *const keeper = new ControlKeeper(widget);
     keeper->deleteLater();
 }
 
-// The panel owns it until it has something to keep.
-ControlKeeper::ControlKeeper(QWidget *panel)
-    : QObject(panel)
+// No child of the panel: it outlives that, and finding a child again takes a look at all of them.
+ControlKeeper::ControlKeeper(QWidget *widget)
 {
+    if (s_waiting.isEmpty())
+        qAddPostRoutine(deleteWaiting);
+    s_waiting.insert(this);
+    // A widget announces its end while its children are still there.
+    connect(widget, &QObject::destroyed, this, [this](QObject *destroyed) {
+        for (QWidget *control : controlsIn(*destroyed))
+            keep(control);
+    });
+    connect(widget->parentWidget(), &QObject::destroyed, this,
+            [this, kept = QPointer<QWidget>(widget)](QObject *destroyed) {
+                if (kept && kept->parent() == destroyed)
+                    keep(kept);
+            });
 }
 
 ControlKeeper::~ControlKeeper()
 {
-    s_waiting.removeOne(this);
+    s_waiting.remove(this);
     if (s_waiting.isEmpty())
         qRemovePostRoutine(deleteWaiting);
     for (const QPointer<QWidget> &control : std::as_const(m_kept)) {
@@ -68,12 +71,6 @@ ControlKeeper::~ControlKeeper()
 
 void ControlKeeper::keep(QWidget *control)
 {
-    if (m_kept.isEmpty()) {
-        setParent(nullptr);
-        if (s_waiting.isEmpty())
-            qAddPostRoutine(deleteWaiting);
-        s_waiting.append(this);
-    }
     m_kept.append(control);
     control->setParent(nullptr);
 }

@@ -21,12 +21,12 @@ class ControlKeeper final : public QObject
 public:
     /// Called at the beginning of each callback. The widget is the editor's, it may be null; a widget
     /// that is itself a control can be kept from the deletion of its parents only.
-    static void watch(QWidget *panel, QWidget *widget);
+    static void watch(QWidget *widget);
 
     ~ControlKeeper() override;
 
 private:
-    explicit ControlKeeper(QWidget *panel);
+    explicit ControlKeeper(QWidget *widget);
 
     void keep(QWidget *control);
 

@@ -77,6 +77,29 @@ double asHeldBy(const QDoubleSpinBox &spinBox, double number)
     return std::clamp(number, spinBox.minimum(), spinBox.maximum());
 }
 
+/// Whether one of the box's arrows is, or would be, the only one that goes on from value.
+template <typename SpinBox, typename Number>
+bool isAtAnEnd(const SpinBox &spinBox, Number value)
+{
+    return value <= spinBox.minimum() || value >= spinBox.maximum();
+}
+
+/// Sets a value that the box will hold as held, without painting more than changes: with every value
+/// a box updates its text and, once more, itself, but only the look of its arrows at the ends of the
+/// range depends on the value. An update that is not needed costs a look at every row of the panel.
+template <typename SpinBox, typename Number>
+void showChanged(SpinBox *spinBox, Number value, Number held)
+{
+    const bool paintsTextAlone = spinBox->updatesEnabled() && !isAtAnEnd(*spinBox, held)
+                                 && !isAtAnEnd(*spinBox, spinBox->value());
+    // Not setUpdatesEnabled(), which would update all of it in the end.
+    if (paintsTextAlone)
+        spinBox->setAttribute(Qt::WA_UpdatesDisabled, true);
+    setQuietly(spinBox, &SpinBox::setValue, value);
+    if (paintsTextAlone)
+        spinBox->setAttribute(Qt::WA_UpdatesDisabled, false);
+}
+
 } // namespace
 
 void showQuietly(QSpinBox *spinBox, int value)
@@ -85,13 +108,26 @@ void showQuietly(QSpinBox *spinBox, int value)
         return;
     const int held = std::clamp(value, spinBox->minimum(), spinBox->maximum());
     if (!showsExactly(*spinBox, held))
-        setQuietly(spinBox, &QSpinBox::setValue, value);
+        showChanged(spinBox, value, held);
 }
 
 void showQuietly(QDoubleSpinBox *spinBox, double value)
 {
-    if (spinBox && !showsExactly(*spinBox, asHeldBy(*spinBox, value)))
-        setQuietly(spinBox, &QDoubleSpinBox::setValue, value);
+    if (!spinBox)
+        return;
+    const double held = asHeldBy(*spinBox, value);
+    if (!showsExactly(*spinBox, held))
+        showChanged(spinBox, value, held);
+}
+
+void showUnlessTyping(QDoubleSpinBox *spinBox, double value)
+{
+    if (!spinBox)
+        return;
+    const double held = asHeldBy(*spinBox, value);
+    // The focus is asked for last: Qt looks for the window first.
+    if (!showsExactly(*spinBox, held) && !spinBox->hasFocus())
+        showChanged(spinBox, value, held);
 }
 
 void showText(QLineEdit *lineEdit, const QString &text)

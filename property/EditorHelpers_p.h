@@ -61,6 +61,10 @@ void setQuietly(const QPointer<Control> &control, Setter setter, Args &&...args)
 void showQuietly(QSpinBox *spinBox, int value);
 void showQuietly(QDoubleSpinBox *spinBox, double value);
 
+/// The same, but leaves alone a field that has the focus: what the user is typing stays, and the field's
+/// own value comes back only as an echo.
+void showUnlessTyping(QDoubleSpinBox *spinBox, double value);
+
 /// Sets the text; one that a set would leave exactly as it is, cursor and undo steps included, is
 /// left alone.
 void showText(QLineEdit *lineEdit, const QString &text);

@@ -93,8 +93,8 @@ void PropertyEditor::revertToDefaultValue()
 
 void PropertyEditor::keepControls()
 {
-    if (auto *const panel = qobject_cast<QWidget *>(parent()))
-        ControlKeeper::watch(panel, m_widget);
+    if (parent())
+        ControlKeeper::watch(m_widget);
 }
 
 bool PropertyEditor::buildsNow()

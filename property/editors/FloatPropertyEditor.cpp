@@ -57,9 +57,7 @@ void FloatPropertyEditor::setValue(const QVariant &value)
         return;
     const double stored = value.toDouble();
     setSliderQuietly(stored);
-    // What the user is typing stays; the field's own value comes back only as an echo.
-    if (m_spinBox && !m_spinBox->hasFocus())
-        showQuietly(m_spinBox, finite(stored * m_displayScale));
+    showUnlessTyping(m_spinBox, finite(stored * m_displayScale));
 }
 
 QVariant FloatPropertyEditor::value() const

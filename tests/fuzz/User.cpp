@@ -131,17 +131,22 @@ void User::typeKey(FuzzInput &input)
 {
     const Key &key = input.pick(kKeys);
     const Qt::KeyboardModifiers modifiers = input.pick(kModifiers);
-    QWidget *const popup = QApplication::activePopupWidget();
-    QPointer<QWidget> receiver = popup ? popup : QApplication::focusWidget();
-    if (!receiver)
-        receiver = m_window;
     const QString text = modifiers & Qt::ControlModifier ? QString() : QString::fromUtf8(key.text);
-    QKeyEvent press(QEvent::KeyPress, key.code, modifiers, text);
-    send(receiver, press);
-    if (!receiver)
-        return;
-    QKeyEvent release(QEvent::KeyRelease, key.code, modifiers, text);
-    send(receiver, release);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        // What was pressed may have moved the focus, and its release goes where that is now.
+        if (QWidget *const receiver = keyReceiver()) {
+            QKeyEvent event(type, key.code, modifiers, text);
+            send(receiver, event);
+        }
+    }
+}
+
+QWidget *User::keyReceiver() const
+{
+    if (QWidget *const popup = QApplication::activePopupWidget())
+        return popup;
+    QWidget *const focused = QApplication::focusWidget();
+    return focused ? focused : m_window.data();
 }
 
 void User::pressMouse(FuzzInput &input, QEvent::Type type)

@@ -41,6 +41,7 @@ private:
     void closeOpen();
 
     /// Any visible widget of the window, or of the popup over it; never null while the window lives.
+    QWidget *keyReceiver() const;
     QWidget *anyWidget(FuzzInput &input) const;
 
     QPointer<QWidget> m_window;

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void droppedPicturesAreNoChange();
     void unreadableDropsAreShown();
     void groupOnATabPageFolds();
+    void foldingIsAStepWithoutChange();
     void modifiedMarkFollowsTheValues();
     void wholePanelFitsTheSizeHint();
     void windowMayBeDeletedWhenFinished();
@@ -666,6 +667,32 @@ void tst_PanelWindow::groupOnATabPageFolds()
     QVERIFY(!m_window->hasUnsavedChanges());
     click(group);
     QVERIFY(inner->isVisible());
+}
+
+void tst_PanelWindow::foldingIsAStepWithoutChange()
+{
+    m_list->append({QString(), QStringLiteral("Group"), kPropertyTypeBeginGroup});
+    m_list->append({QStringLiteral("inner"), QStringLiteral("Inner"), kPropertyTypeString});
+    m_list->append({QString(), QString(), kPropertyTypeEndGroup});
+    show();
+    QLineEdit *const inner = m_window->findChildren<QLineEdit *>().constLast();
+    auto *const group = m_window->findChildren<QCheckBox *>().constLast();
+    QCOMPARE(group->text(), QStringLiteral("Group"));
+
+    click(group);
+    QVERIFY(!inner->isVisible());
+    QCOMPARE(toolButton("Undo")->defaultAction()->text(), QStringLiteral("Undo Group"));
+    QVERIFY(!m_window->hasUnsavedChanges());
+    QVERIFY(!m_window->isWindowModified());
+
+    QTest::keyClick(group, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(inner->isVisible());
+    click(toolButton("Redo"));
+    QVERIFY(!inner->isVisible());
+
+    click(loop());
+    QVERIFY(m_window->hasUnsavedChanges());
+    QVERIFY(m_window->isWindowModified());
 }
 
 void tst_PanelWindow::modifiedMarkFollowsTheValues()

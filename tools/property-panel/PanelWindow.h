@@ -52,7 +52,7 @@ public:
                 const ValuesWriter &writer);
     ~PanelWindow() override;
 
-    /// True when the values differ from those that the window started with.
+    /// True when values were changed since the window started, and not changed back by undo.
     bool hasUnsavedChanges() const;
 
     /// Large enough for the whole panel, if the screen is.
@@ -83,6 +83,7 @@ private:
     QScrollArea *makeScrollArea();
     QAction *addUndoAction(QAction *action, const QString &shortText, const QString &icon);
 
+    bool hasChangedValues() const;
     void followStack();
     void refresh();
     void showProblems(const QStringList &problems);

@@ -52,6 +52,8 @@ private Q_SLOTS:
     void saveWritesAndFinishesOnce();
     void saveTakesTheTextBeingTyped();
     void valueThatItsEditorCannotShowStays();
+    void saveWritesTheSettingsToo();
+    void failedSettingsKeepTheWindow();
     void failedSaveShowsWhyAndKeepsEverything();
     void saveAfterAFailureSucceeds();
     void undoAndRedoByButton();
@@ -261,6 +263,41 @@ void tst_PanelWindow::valueThatItsEditorCannotShowStays()
     m_window->save();
 
     QCOMPARE(saved().value(QStringLiteral("notes")), QJsonValue(text));
+}
+
+void tst_PanelWindow::saveWritesTheSettingsToo()
+{
+    show();
+    const QString path = m_folder->filePath(QStringLiteral("program.ini"));
+    m_window->setSettingsPath(path);
+    QSignalSpy about(m_window.get(), &PanelWindow::aboutToSave);
+    typeOver(title(), "typed");
+
+    click(button("Save"));
+
+    QCOMPARE(m_finished, QVector<ExitStatus>{ExitStatus::Saved});
+    QCOMPARE(about.size(), 1);
+    QCOMPARE(saved().value(QStringLiteral("title")), QJsonValue(QStringLiteral("typed")));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().trimmed(), QByteArray("[General]\nloop=false\nnotes=\ntitle=typed"));
+}
+
+void tst_PanelWindow::failedSettingsKeepTheWindow()
+{
+    show();
+    m_window->setSettingsPath(m_folder->path());
+    click(loop());
+
+    click(button("Save"));
+
+    QVERIFY(m_finished.isEmpty());
+    QVERIFY(m_window->hasUnsavedChanges());
+    const auto *const banner = m_window->findChild<QLabel *>(QStringLiteral("errorBanner"));
+    QVERIFY2(banner->text().contains(m_folder->path()), qPrintable(banner->text()));
+    m_window->setSettingsPath(QString());
+    click(button("Save"));
+    QCOMPARE(m_finished, QVector<ExitStatus>{ExitStatus::Saved});
 }
 
 void tst_PanelWindow::failedSaveShowsWhyAndKeepsEverything()

@@ -2,6 +2,7 @@
 
 #include "GroupFolding.h"
 #include "PanelWidth.h"
+#include "SettingsFile.h"
 #include "StandardStreams.h"
 #include "TextureChoices.h"
 
@@ -120,9 +121,20 @@ QSize PanelWindow::sizeHint() const
         .boundedTo(screen()->availableSize() * kLargestShareOfScreen);
 }
 
+void PanelWindow::setSettingsPath(const QString &path)
+{
+    m_settingsPath = path;
+}
+
+PropertyUI::PropertyEditorPanel *PanelWindow::panel() const
+{
+    return m_panel;
+}
+
 void PanelWindow::save()
 {
     m_pending.commit();
+    Q_EMIT aboutToSave();
     if (m_writer.hasForeignContent())
         askAboutForeignContent();
     else
@@ -305,13 +317,16 @@ void PanelWindow::showProblems(const QStringList &problems)
 
 void PanelWindow::writeValues()
 {
-    const QString error = m_writer.write(m_store->toJson(m_list));
-    if (!error.isEmpty()) {
-        showProblems({error});
-        return;
+    QString error = m_writer.write(m_store->toJson(m_list));
+    if (error.isEmpty()) {
+        m_writer.noteContent(); // not to be taken for another program's, should the settings fail
+        if (!m_settingsPath.isEmpty())
+            error = writeSettingsFile(m_settingsPath, *m_store, m_list);
     }
-    m_writer.noteContent();
-    finish(ExitStatus::Saved);
+    if (error.isEmpty())
+        finish(ExitStatus::Saved);
+    else
+        showProblems({error});
 }
 
 void PanelWindow::makeQuestion(const QString &text, const QString &information,

@@ -1,5 +1,7 @@
 #include "host/CommitPolicy.h"
 
+#include "host/ValueKind_p.h"
+
 #include <property/Property.h>
 #include <property/PropertyEditor.h>
 #include <property/PropertyEditorPanel.h>
@@ -79,7 +81,11 @@ void CommitPolicy::setDefaultMode(CommitMode mode)
 
 CommitMode CommitPolicy::mode(const Property *property) const
 {
-    return m_modes.value(property, m_defaultMode);
+    const auto own = m_modes.constFind(property);
+    if (own != m_modes.constEnd())
+        return *own;
+    // Two clicks on a button are not one.
+    return typeTraits(property->type).structural ? CommitMode::live() : m_defaultMode;
 }
 
 void CommitPolicy::setMode(const Property *property, CommitMode mode)

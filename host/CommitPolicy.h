@@ -93,7 +93,8 @@ public:
     CommitMode defaultMode() const;
     void setDefaultMode(CommitMode mode);
 
-    /// The mode of one property. What waits passes before it changes.
+    /// The mode of one property. What waits passes before it changes. A row that has no value (an
+    /// action, a group, a tab group) and no mode of its own is live, since each click counts.
     CommitMode mode(const PropertyUI::Property *property) const;
     void setMode(const PropertyUI::Property *property, CommitMode mode);
 

@@ -97,6 +97,8 @@ private Q_SLOTS:
     void otherPropertyLetsTheWaitingEditPass();
     void changeOfModeLetsTheWaitingEditPass();
     void flushPassesOnce();
+    void clicksPassAtOnce_data();
+    void clicksPassAtOnce();
     void forgottenEditDoesNotPass();
     void destructionLetsTheWaitingEditPass();
     void dragPassesWhenItEnds();
@@ -305,6 +307,33 @@ void tst_CommitPolicy::flushPassesOnce()
     QTest::qWait(250);
 
     QCOMPARE(subject.log(), QStringLiteral("a=1/0 a=2/1"));
+}
+
+void tst_CommitPolicy::clicksPassAtOnce_data()
+{
+    QTest::addColumn<QString>("type");
+
+    QTest::newRow("on an action") << kPropertyTypeAction;
+    QTest::newRow("on a group") << kPropertyTypeBeginGroup;
+    QTest::newRow("on a tab") << kPropertyTypeBeginTabGroup;
+}
+
+void tst_CommitPolicy::clicksPassAtOnce()
+{
+    QFETCH(QString, type);
+    Subject subject;
+    Property row(QStringLiteral("go"), QString(), type);
+    subject.policy->setDefaultMode(CommitMode::atMost(1));
+    QVERIFY(subject.policy->mode(&row).isLive());
+
+    for (int click = 0; click < 3; ++click)
+        subject.policy->setValue(&row, click, kNew);
+    QCOMPARE(subject.log(), QStringLiteral("go=0/0 go=1/0 go=2/0"));
+
+    subject.policy->setMode(&row, CommitMode::atMost(1));
+    subject.policy->setValue(&row, 3, kNew);
+    subject.policy->setValue(&row, 4, kNew);
+    QCOMPARE(subject.log(3), QStringLiteral("go=3/0"));
 }
 
 void tst_CommitPolicy::forgottenEditDoesNotPass()

@@ -82,6 +82,7 @@ private Q_SLOTS:
     void refusedChangeLeavesNoCommand();
     void typesWithoutValueArePassedOnOnly_data();
     void typesWithoutValueArePassedOnOnly();
+    void foldingIsAStepWithoutPanelToo();
     void editsWithoutStackArePassedOn();
     void editAndValueWithoutInnerDelegateDoNothing();
     void stackOutlivesUndoDelegate();
@@ -299,7 +300,6 @@ void tst_UndoDelegate::typesWithoutValueArePassedOnOnly_data()
 
     QTest::newRow("a click on an action") << kPropertyTypeAction;
     QTest::newRow("a separator") << kPropertyTypeSeparator;
-    QTest::newRow("folding a group") << kPropertyTypeBeginGroup;
     QTest::newRow("the end of a group") << kPropertyTypeEndGroup;
     QTest::newRow("turning to another tab") << kPropertyTypeBeginTabGroup;
     QTest::newRow("a tab") << kPropertyTypeTab;
@@ -315,6 +315,20 @@ void tst_UndoDelegate::typesWithoutValueArePassedOnOnly()
 
     QCOMPARE(m_store->writes.size(), 1);
     QCOMPARE(m_stack->count(), 0);
+}
+
+void tst_UndoDelegate::foldingIsAStepWithoutPanelToo()
+{
+    Property group(QStringLiteral("room"), QStringLiteral("Room"), kPropertyTypeBeginGroup);
+
+    set(group, false, kNew); // the store knew nothing of it before
+
+    QCOMPARE(m_stack->undoText(), QStringLiteral("Room"));
+    m_stack->undo();
+    QCOMPARE(m_store->values.value(group.name), QVariant(true));
+    m_stack->redo();
+    QCOMPARE(m_store->values.value(group.name), QVariant(false));
+    QCOMPARE(m_store->writes.size(), 3);
 }
 
 void tst_UndoDelegate::editsWithoutStackArePassedOn()

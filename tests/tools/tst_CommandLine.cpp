@@ -3,6 +3,7 @@
 #include <QTest>
 
 using namespace Tessark::PropertyPanel;
+using Tessark::PropertyHost::CommitMode;
 using Task = Options::Task;
 
 Q_DECLARE_METATYPE(Task)
@@ -23,6 +24,13 @@ private Q_SLOTS:
     void badSize();
     void theme_data();
     void theme();
+    void commitMode_data();
+    void commitMode();
+    void badCommitMode_data();
+    void badCommitMode();
+    void settings();
+    void contradictions_data();
+    void contradictions();
     void helpWinsOverMistakesThatCanBeRead();
     void listAfterTwoDashesMayBeginWithADash();
 
@@ -42,7 +50,9 @@ void tst_CommandLine::nothingShowsTheBuiltInList()
     QVERIFY(result.options.listPath.isEmpty());
     QVERIFY(result.options.valuesPath.isEmpty());
     QVERIFY(result.options.outputPath.isEmpty());
+    QVERIFY(result.options.settingsPath.isEmpty());
     QVERIFY(!result.options.live);
+    QVERIFY(result.options.commitMode.isLive());
     QVERIFY(!result.options.size.isValid());
     QCOMPARE(result.options.theme, Theme::System);
 }
@@ -141,6 +151,82 @@ void tst_CommandLine::theme()
 
     QCOMPARE(result.error, QString());
     QTEST(result.options.theme, "theme");
+}
+
+void tst_CommandLine::commitMode_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("interval");
+    QTest::addColumn<bool>("isAtEnd");
+
+    QTest::newRow("live") << QStringLiteral("live") << 0 << false;
+    QTest::newRow("at a rate") << QStringLiteral("rate:20") << 50 << false;
+    QTest::newRow("at the end") << QStringLiteral("end") << 0 << true;
+}
+
+void tst_CommandLine::commitMode()
+{
+    QFETCH(QString, text);
+
+    const CommandLine result = parse({QStringLiteral("--live"), QStringLiteral("--commit"), text});
+
+    QCOMPARE(result.error, QString());
+    QTEST(result.options.commitMode.interval(), "interval");
+    QTEST(result.options.commitMode.isAtEndOfRun(), "isAtEnd");
+}
+
+void tst_CommandLine::badCommitMode_data()
+{
+    QTest::addColumn<QString>("text");
+
+    for (const char *text : {"", "Live", "rate", "rate:", "rate:0", "rate:1001", "rate:x", "ends"})
+        QTest::newRow(text) << QString::fromLatin1(text);
+}
+
+void tst_CommandLine::badCommitMode()
+{
+    QFETCH(QString, text);
+
+    const CommandLine result =
+        parse({QStringLiteral("--live"), QStringLiteral("--commit=") + text});
+
+    QCOMPARE(
+        result.error,
+        QStringLiteral("\"%1\" is no time for --commit; choose live, end, or rate:N with N from "
+                       "1 to 1000.")
+            .arg(text));
+}
+
+void tst_CommandLine::settings()
+{
+    const CommandLine result = parse({QStringLiteral("--settings"), QStringLiteral("program.ini"),
+                                      QStringLiteral("--output"), QStringLiteral("o.json")});
+
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.options.settingsPath, QStringLiteral("program.ini"));
+}
+
+void tst_CommandLine::contradictions_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+
+    QTest::newRow("--commit without --live")
+        << QStringList{QStringLiteral("--commit"), QStringLiteral("end")}
+        << QStringLiteral("--commit is of use only with --live.");
+    QTest::newRow("settings without name")
+        << QStringList{QStringLiteral("--settings=")}
+        << QStringLiteral("--settings needs the name of a file.");
+    QTest::newRow("one file for two forms")
+        << QStringList{QStringLiteral("--settings=f"), QStringLiteral("--output=f")}
+        << QStringLiteral("--settings and --output cannot name the same file.");
+}
+
+void tst_CommandLine::contradictions()
+{
+    QFETCH(QStringList, arguments);
+
+    QTEST(parse(arguments).error, "error");
 }
 
 void tst_CommandLine::helpWinsOverMistakesThatCanBeRead()

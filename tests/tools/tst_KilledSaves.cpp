@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -22,6 +23,8 @@ constexpr int kKills = 150; // a program under the sanitizers starts slowly
 #else
 constexpr int kKills = 500;
 #endif
+
+constexpr int kKillsOfSettings = 100;
 
 constexpr int kProgramsAhead = 4; // start while others are killed
 constexpr int kTrials = 5;
@@ -46,6 +49,20 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// Settings of another program beside those of the list, in the form that they are written in.
+QByteArray settingsWith(const QString &title)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("program.ini"));
+    {
+        QSettings settings(path, QSettings::IniFormat);
+        settings.setValue(QStringLiteral("title"), title);
+        for (int i = 0; i < 1000; ++i)
+            settings.setValue(QStringLiteral("Other/key%1").arg(i), QString(60, QLatin1Char('x')));
+    }
+    return contentOf(path);
+}
+
 void write(const QString &path, const QByteArray &content)
 {
     QFile file(path);
@@ -53,27 +70,32 @@ void write(const QString &path, const QByteArray &content)
         qFatal("cannot write a test file");
 }
 
-/// A run of the program in a folder of its own, which saves over its values file when told to.
+/// A run of the program in a folder of its own, which saves over a file when told to.
 class Save
 {
 public:
-    explicit Save(const QByteArray &before)
-        : m_before(before)
+    /// Each option names the file.
+    Save(const QString &name, const QStringList &options, const QByteArray &before)
+        : m_name(name)
+        , m_before(before)
     {
         write(m_folder.filePath(QStringLiteral("list.json")), kList);
+        QStringList arguments(QStringLiteral("list.json"));
+        for (const QString &option : options)
+            arguments << option << name;
+        m_process.setProgram(QStringLiteral(PROPERTY_PANEL_PROGRAM));
+        m_process.setArguments(arguments);
+        QProcessEnvironment environment = withDriver(driverSteps("line new, await, press Save"));
+        environment.insert(QStringLiteral("TMPDIR"), m_temporary.path());
+        m_process.setProcessEnvironment(environment);
+        m_process.setWorkingDirectory(m_folder.path());
     }
 
-    QString path() const { return m_folder.filePath(QStringLiteral("values.json")); }
+    QString path() const { return m_folder.filePath(m_name); }
 
     void start()
     {
         write(path(), m_before);
-        m_process.setProgram(QStringLiteral(PROPERTY_PANEL_PROGRAM));
-        m_process.setArguments({QStringLiteral("list.json"), QStringLiteral("--values"),
-                                QStringLiteral("values.json"), QStringLiteral("--output"),
-                                QStringLiteral("values.json")});
-        m_process.setProcessEnvironment(withDriver(driverSteps("line new, await, press Save")));
-        m_process.setWorkingDirectory(m_folder.path());
         m_process.start();
     }
 
@@ -95,18 +117,30 @@ public:
         return m_process.waitForFinished(kRunTimeout);
     }
 
-    /// What lies in the folder beside the list and the values.
+    /// Waits until other files lie beside the file than before, or it is written.
+    void awaitWriting(const QStringList &remainsBefore) const
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (remains() == remainsBefore && contentOf(path()) == m_before
+               && !timer.hasExpired(kRunTimeout)) {
+        }
+    }
+
+    /// What lies in the folder beside the list and the file.
     QStringList remains() const
     {
         QStringList names = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
         names.removeAll(QStringLiteral("list.json"));
-        names.removeAll(QStringLiteral("values.json"));
+        names.removeAll(m_name);
         return names;
     }
 
 private:
+    QString m_name;
     QByteArray m_before;
     QTemporaryDir m_folder;
+    QTemporaryDir m_temporary; // for the program's working copies
     QProcess m_process;
 };
 
@@ -125,6 +159,7 @@ class tst_KilledSaves : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void fileIsOldOrNewAndWhole_data();
     void fileIsOldOrNewAndWhole();
 
 private:
@@ -151,13 +186,37 @@ qint64 tst_KilledSaves::usualTime(Save &save, const QByteArray &after)
     return times[kTrials / 2];
 }
 
+void tst_KilledSaves::fileIsOldOrNewAndWhole_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<int>("kills");
+    QTest::addColumn<bool>("hasLongStart");
+
+    QTest::newRow("values") << QStringLiteral("values.json")
+                            << QStringList{QStringLiteral("--values"), QStringLiteral("--output")}
+                            << valuesWith(QStringLiteral("old"))
+                            << valuesWith(QStringLiteral("new")) << kKills << false;
+    QTest::newRow("settings") << QStringLiteral("program.ini")
+                              << QStringList(QStringLiteral("--settings"))
+                              << settingsWith(QStringLiteral("old"))
+                              << settingsWith(QStringLiteral("new")) << kKillsOfSettings << true;
+}
+
 void tst_KilledSaves::fileIsOldOrNewAndWhole()
 {
-    const QByteArray before = valuesWith(QStringLiteral("old"));
-    const QByteArray after = valuesWith(QStringLiteral("new"));
+    QFETCH(QString, name);
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(int, kills);
+    QFETCH(bool, hasLongStart);
+    const QString hidden = QLatin1Char('.') + name + QLatin1String(".saving-");
     std::array<std::unique_ptr<Save>, kProgramsAhead> saves;
     for (auto &save : saves)
-        save = std::make_unique<Save>(before);
+        save = std::make_unique<Save>(name, options, before);
     const qint64 usual = usualTime(*saves.front(), after);
     QVERIFY(usual > 0);
     for (auto &save : saves)
@@ -169,11 +228,15 @@ void tst_KilledSaves::fileIsOldOrNewAndWhole()
     int killedBefore = 0;
     int killedWhileWriting = 0;
     int killedAfter = 0;
-    for (int i = 0; i < kKills; ++i) {
+    for (int i = 0; i < kills; ++i) {
         Save &save = *saves[static_cast<std::size_t>(i) % saves.size()];
         QVERIFY(save.go());
         const QStringList leftBefore = save.remains();
-        waitMicroseconds(delay(random));
+        // What comes before the writing would take most of the kills.
+        if (hasLongStart && i % 2 == 0)
+            save.awaitWriting(leftBefore);
+        else
+            waitMicroseconds(delay(random));
         QVERIFY(save.kill());
 
         const QByteArray content = contentOf(save.path());
@@ -181,8 +244,8 @@ void tst_KilledSaves::fileIsOldOrNewAndWhole()
         // Each save removes what the one before has left.
         const QStringList left = save.remains();
         QVERIFY2(left.size() <= 1, qPrintable(left.join(QLatin1Char(' '))));
-        for (const QString &name : left)
-            QVERIFY2(name.startsWith(QStringLiteral(".values.json.saving-")), qPrintable(name));
+        for (const QString &file : left)
+            QVERIFY2(file.startsWith(hidden), qPrintable(file));
         if (content == after)
             ++killedAfter;
         else
@@ -190,7 +253,7 @@ void tst_KilledSaves::fileIsOldOrNewAndWhole()
         save.start();
     }
 
-    qInfo("%d kills within %lld us: %d before the writing, %d while writing, %d after it", kKills,
+    qInfo("%d kills within %lld us: %d before the writing, %d while writing, %d after it", kills,
           static_cast<long long>(delay.max()), killedBefore, killedWhileWriting, killedAfter);
     QVERIFY(killedBefore > 0);
     QVERIFY(killedWhileWriting > 0);

@@ -1,19 +1,22 @@
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
-#include <property/Property.h>
-#include <property/PropertyVocabulary.h>
+#include <property/PropertyUI.h>
 #include <property/TextureChoice.h>
 #include <property/editors/ImageFormatEditor.h>
 #include <tools/property-panel/LivePrinter.h>
 
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryFile>
 #include <QTest>
 
+#include <memory>
+
 #include <unistd.h>
 
 using namespace Tessark::PropertyUI;
+using Tessark::PropertyHost::CommitMode;
 using Tessark::PropertyHost::PropertyList;
 using Tessark::PropertyHost::PropertyStore;
 using Tessark::PropertyPanel::LivePrinter;
@@ -35,6 +38,8 @@ public:
 
     Capture(const Capture &) = delete;
     Capture &operator=(const Capture &) = delete;
+
+    qint64 size() const { return QFileInfo(m_file).size(); }
 
     QByteArray text()
     {
@@ -74,8 +79,13 @@ private Q_SLOTS:
     void lineBreaksAreEscaped();
     void foldingAndTurningPagesAreNoChanges_data();
     void foldingAndTurningPagesAreNoChanges();
+    void runIsOneLineAtItsEnd();
+    void limitedRunPrintsItsFirstAndLastChange();
+    void actionIsPrintedEachTimeInEveryMode();
+    void whatWaitsIsPrintedAtLast();
 
 private:
+    Property m_gain{QStringLiteral("gain"), QStringLiteral("Gain"), kPropertyTypeFloat};
     Property m_title{QStringLiteral("title"), QStringLiteral("Title"), kPropertyTypeString};
 };
 
@@ -232,5 +242,78 @@ void tst_LivePrinter::foldingAndTurningPagesAreNoChanges()
     QCOMPARE(output.text(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(tst_LivePrinter)
+void tst_LivePrinter::runIsOneLineAtItsEnd()
+{
+    PropertyStore store;
+    PropertyEditorPanel panel({&m_gain}, &store, nullptr);
+    LivePrinter printer({}, &store);
+    printer.follow(&panel, CommitMode::atEndOfRun());
+    auto *const editor = panel.findChild<PropertyEditor *>();
+    Capture output;
+
+    Q_EMIT editor->startInteractiveChange();
+    store.setValue(&m_gain, 0.5, PropertyStore::NewChange);
+    store.setValue(&m_gain, 0.75, PropertyStore::ContinuedChange);
+    QVERIFY(output.size() == 0);
+    Q_EMIT editor->endInteractiveChange();
+
+    QCOMPARE(output.text(), QByteArray("{\"continued\":false,\"name\":\"gain\",\"value\":0.75}\n"));
+}
+
+void tst_LivePrinter::limitedRunPrintsItsFirstAndLastChange()
+{
+    PropertyStore store;
+    PropertyEditorPanel panel({&m_gain}, &store, nullptr);
+    LivePrinter printer({}, &store);
+    printer.follow(&panel, CommitMode::atMost(20));
+    Capture output;
+
+    store.setValue(&m_gain, 0.25, PropertyStore::NewChange);
+    store.setValue(&m_gain, 0.5, PropertyStore::ContinuedChange);
+    store.setValue(&m_gain, 0.75, PropertyStore::ContinuedChange);
+    const qint64 first = output.size();
+
+    QVERIFY(first > 0);
+    QTRY_VERIFY(output.size() > first);
+    QCOMPARE(output.text(), QByteArray("{\"continued\":false,\"name\":\"gain\",\"value\":0.25}\n"
+                                       "{\"continued\":true,\"name\":\"gain\",\"value\":0.75}\n"));
+}
+
+void tst_LivePrinter::actionIsPrintedEachTimeInEveryMode()
+{
+    Property action(QStringLiteral("go"), QStringLiteral("Go"), kPropertyTypeAction);
+    PropertyStore store;
+    PropertyEditorPanel panel({&action}, &store, nullptr);
+    for (const CommitMode mode : {CommitMode::atMost(1), CommitMode::atEndOfRun()}) {
+        LivePrinter printer({}, &store);
+        printer.follow(&panel, mode);
+        Capture output;
+
+        for (int i = 0; i < 3; ++i)
+            store.setValue(&action, QVariant(), PropertyStore::NewChange);
+
+        QCOMPARE(output.text().count('\n'), 3);
+    }
+}
+
+void tst_LivePrinter::whatWaitsIsPrintedAtLast()
+{
+    PropertyStore store;
+    PropertyEditorPanel panel({&m_gain}, &store, nullptr);
+    auto printer = std::make_unique<LivePrinter>(PropertyList(), &store);
+    printer->follow(&panel, CommitMode::atMost(1));
+    Capture output;
+
+    store.setValue(&m_gain, 0.25, PropertyStore::NewChange);
+    store.setValue(&m_gain, 0.5, PropertyStore::ContinuedChange);
+    const qint64 first = output.size();
+    printer->flush();
+    QVERIFY(output.size() > first);
+    store.setValue(&m_gain, 0.75, PropertyStore::ContinuedChange);
+    printer.reset();
+
+    QCOMPARE(output.text().count('\n'), 3);
+}
+
+QTEST_MAIN(tst_LivePrinter)
 #include "tst_LivePrinter.moc"

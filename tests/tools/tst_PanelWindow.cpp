@@ -52,6 +52,8 @@ private Q_SLOTS:
     void saveWritesAndFinishesOnce();
     void saveTakesTheTextBeingTyped();
     void valueThatItsEditorCannotShowStays();
+    void saveWritesTheSettingsToo();
+    void failedSettingsKeepTheWindow();
     void failedSaveShowsWhyAndKeepsEverything();
     void saveAfterAFailureSucceeds();
     void undoAndRedoByButton();
@@ -78,6 +80,7 @@ private Q_SLOTS:
     void droppedPicturesAreNoChange();
     void unreadableDropsAreShown();
     void groupOnATabPageFolds();
+    void foldingIsAStepWithoutChange();
     void modifiedMarkFollowsTheValues();
     void wholePanelFitsTheSizeHint();
     void windowMayBeDeletedWhenFinished();
@@ -260,6 +263,41 @@ void tst_PanelWindow::valueThatItsEditorCannotShowStays()
     m_window->save();
 
     QCOMPARE(saved().value(QStringLiteral("notes")), QJsonValue(text));
+}
+
+void tst_PanelWindow::saveWritesTheSettingsToo()
+{
+    show();
+    const QString path = m_folder->filePath(QStringLiteral("program.ini"));
+    m_window->setSettingsPath(path);
+    QSignalSpy about(m_window.get(), &PanelWindow::aboutToSave);
+    typeOver(title(), "typed");
+
+    click(button("Save"));
+
+    QCOMPARE(m_finished, QVector<ExitStatus>{ExitStatus::Saved});
+    QCOMPARE(about.size(), 1);
+    QCOMPARE(saved().value(QStringLiteral("title")), QJsonValue(QStringLiteral("typed")));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().trimmed(), QByteArray("[General]\nloop=false\nnotes=\ntitle=typed"));
+}
+
+void tst_PanelWindow::failedSettingsKeepTheWindow()
+{
+    show();
+    m_window->setSettingsPath(m_folder->path());
+    click(loop());
+
+    click(button("Save"));
+
+    QVERIFY(m_finished.isEmpty());
+    QVERIFY(m_window->hasUnsavedChanges());
+    const auto *const banner = m_window->findChild<QLabel *>(QStringLiteral("errorBanner"));
+    QVERIFY2(banner->text().contains(m_folder->path()), qPrintable(banner->text()));
+    m_window->setSettingsPath(QString());
+    click(button("Save"));
+    QCOMPARE(m_finished, QVector<ExitStatus>{ExitStatus::Saved});
 }
 
 void tst_PanelWindow::failedSaveShowsWhyAndKeepsEverything()
@@ -666,6 +704,32 @@ void tst_PanelWindow::groupOnATabPageFolds()
     QVERIFY(!m_window->hasUnsavedChanges());
     click(group);
     QVERIFY(inner->isVisible());
+}
+
+void tst_PanelWindow::foldingIsAStepWithoutChange()
+{
+    m_list->append({QString(), QStringLiteral("Group"), kPropertyTypeBeginGroup});
+    m_list->append({QStringLiteral("inner"), QStringLiteral("Inner"), kPropertyTypeString});
+    m_list->append({QString(), QString(), kPropertyTypeEndGroup});
+    show();
+    QLineEdit *const inner = m_window->findChildren<QLineEdit *>().constLast();
+    auto *const group = m_window->findChildren<QCheckBox *>().constLast();
+    QCOMPARE(group->text(), QStringLiteral("Group"));
+
+    click(group);
+    QVERIFY(!inner->isVisible());
+    QCOMPARE(toolButton("Undo")->defaultAction()->text(), QStringLiteral("Undo Group"));
+    QVERIFY(!m_window->hasUnsavedChanges());
+    QVERIFY(!m_window->isWindowModified());
+
+    QTest::keyClick(group, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(inner->isVisible());
+    click(toolButton("Redo"));
+    QVERIFY(!inner->isVisible());
+
+    click(loop());
+    QVERIFY(m_window->hasUnsavedChanges());
+    QVERIFY(m_window->isWindowModified());
 }
 
 void tst_PanelWindow::modifiedMarkFollowsTheValues()

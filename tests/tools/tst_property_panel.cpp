@@ -113,6 +113,12 @@ private Q_SLOTS:
     void droppedPictureCanBeSaved();
     void droppedTextIsTold();
     void liveLinesOfPictures();
+    void settingsAreReadAndSaved();
+    void settingsNeedNotExist();
+    void valuesGoBeforeSettings();
+    void liveLinesWithSettings();
+    void liveLinesAsCommitted_data();
+    void liveLinesAsCommitted();
     void saveWithTheKeyboard();
     void saveReplacesTheValuesFileItStartedFrom();
     void saveToStandardOutput();
@@ -133,7 +139,7 @@ private:
     Result run(const QStringList &arguments, const QProcessEnvironment &environment,
                const QByteArray &input = QByteArray()) const;
     Result runPlain(const char *arguments, const QByteArray &input = QByteArray()) const;
-    Result play(const char *arguments, const char *steps) const;
+    Result play(const QByteArray &arguments, const QByteArray &steps) const;
 
     /// Runs a shell command line in which $0 is the program.
     Result playInShell(const char *command, const char *steps) const;
@@ -184,9 +190,9 @@ Result tst_property_panel::runPlain(const char *arguments, const QByteArray &inp
     return run(words(arguments), withoutDisplay(), input);
 }
 
-Result tst_property_panel::play(const char *arguments, const char *steps) const
+Result tst_property_panel::play(const QByteArray &arguments, const QByteArray &steps) const
 {
-    return run(words(arguments), withDriver(driverSteps(steps)));
+    return run(words(arguments.trimmed().constData()), withDriver(driverSteps(steps.constData())));
 }
 
 Result tst_property_panel::playInShell(const char *command, const char *steps) const
@@ -225,9 +231,9 @@ void tst_property_panel::helpTellsAllOptionsAndStatuses()
     const Result result = runPlain("--help");
 
     for (const char *text :
-         {"LIST.json", "--values <FILE>", "--output <FILE>", "--live", "--check", "--render <PNG>",
-          "--size <WxH>", "--theme <THEME>", "--trusted", "--version", "--help",
-          "Exit status:", "\n  0  ", "\n  1  ", "\n  2  "})
+         {"LIST.json", "--values <FILE>", "--settings <FILE>", "--output <FILE>", "--live",
+          "--commit <WHEN>", "--check", "--render <PNG>", "--size <WxH>", "--theme <THEME>",
+          "--trusted", "--version", "--help", "Exit status:", "\n  0  ", "\n  1  ", "\n  2  "})
         QVERIFY2(result.output.contains(text), text);
 }
 
@@ -251,6 +257,9 @@ void tst_property_panel::wrongCommandLine_data()
     row("--check with --render", "--check --render x.png", "--render");
     row("standard input twice", "- --values -", "standard input");
     row("an empty file name", "--values=", "--values");
+    row("an unknown commit mode", "--live --commit never", "\"never\"");
+    row("--commit without --live", "--commit end", "--live");
+    row("settings in the place of the output", "--settings x --output x", "the same file");
 }
 
 void tst_property_panel::wrongCommandLine()
@@ -375,6 +384,12 @@ void tst_property_panel::badInputStopsEveryTask_data()
     row("a bad list", "bad.json", "bad.json: error: /properties/0");
     row("a bad list to render", "bad.json --render x.png", "bad.json: error: /properties/0");
     row("an empty file", "empty.json", "empty.json:");
+    row("a folder for settings", "list.json --settings .", ".: error: cannot be read: ");
+    row("settings that are no INI file", "list.json --settings list.json",
+        "list.json: error: is not an INI file: ");
+    row("a bad setting", "list.json --settings bad.ini --render x.png", "bad.ini: error: /loop: ");
+    row("a bad setting to check", "list.json --settings bad.ini --check",
+        "bad.ini: error: /loop: ");
 }
 
 void tst_property_panel::badInputStopsEveryTask()
@@ -384,8 +399,9 @@ void tst_property_panel::badInputStopsEveryTask()
     write("bad.json",
           R"({"version": 1, "properties": [{"name": "a", "type": "bool", "default": "yes"}]})");
     write("empty.json", QByteArray());
+    write("bad.ini", "loop=maybe\n");
 
-    const Result result = play(arguments.constData(), "press Save");
+    const Result result = play(arguments, "press Save");
 
     QCOMPARE(result.status, 2);
     QVERIFY2(result.error.contains(message), result.error.constData());
@@ -588,7 +604,7 @@ void tst_property_panel::droppedPictureCanBeSaved()
     write("green.png", picture(Qt::green));
     const QByteArray steps = "drop " + path("green.png").toUtf8() + ", item green.png, press Save";
 
-    const Result result = play("pictures.json --output out.json", steps.constData());
+    const Result result = play("pictures.json --output out.json", steps);
 
     QCOMPARE(result.status, 0);
     QCOMPARE(readObject("out.json").value(QStringLiteral("floor")),
@@ -601,7 +617,7 @@ void tst_property_panel::droppedTextIsTold()
     const QByteArray file = path("list.json").toUtf8();
     const QByteArray steps = "drop " + file + ", press Save";
 
-    const Result result = play("pictures.json --output out.json", steps.constData());
+    const Result result = play("pictures.json --output out.json", steps);
 
     QCOMPARE(result.status, 0);
     QCOMPARE(problemsOf(result.error),
@@ -629,6 +645,96 @@ void tst_property_panel::liveLinesOfPictures()
             R"({"continued":false,"name":"format","value":{"format":"png"}})",
             R"({"continued":false,"name":"floor","value":"Red"})",
             R"({"floor":"Red","format":{"format":"png"},"frame":[8,6],"poster":"red.png","size":[8,6],"tint":[0,0,0,1],"turn":[1,0,0,0,1,0,0,0,1]})"}));
+}
+
+void tst_property_panel::settingsAreReadAndSaved()
+{
+    write("program.ini", "loop=true\n[Window]\nwidth=300\n");
+
+    const Result result = play("list.json --settings program.ini", "line typed, press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(problemsOf(result.error), QByteArray());
+    QCOMPARE(read("program.ini").trimmed(),
+             QByteArray("[General]\nloop=true\nnotes=\ntitle=typed\n\n[Window]\nwidth=300"));
+}
+
+void tst_property_panel::settingsNeedNotExist()
+{
+    QCOMPARE(play("list.json --settings new.ini", "press Loop, close, press Discard").status, 1);
+    QVERIFY(!QFile::exists(path("new.ini")));
+
+    QCOMPARE(play("list.json --settings new.ini", "press Loop, press Save").status, 0);
+
+    QCOMPARE(read("new.ini").trimmed(), QByteArray("[General]\nloop=true\nnotes=\ntitle=Untitled"));
+}
+
+void tst_property_panel::valuesGoBeforeSettings()
+{
+    write("program.ini", "loop=true\ntitle=Of the settings\n");
+    write("values.json", R"({"title": "Of the values", "zoom": 2})");
+
+    const Result result = play(
+        "list.json --values values.json --settings program.ini --output out.json", "press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(readObject("out.json"),
+             (QJsonObject{{QStringLiteral("title"), QStringLiteral("Of the values")},
+                          {QStringLiteral("loop"), true},
+                          {QStringLiteral("notes"), QString()},
+                          {QStringLiteral("zoom"), 2}}));
+    QCOMPARE(read("program.ini").trimmed(),
+             QByteArray("[General]\nloop=true\nnotes=\ntitle=Of the values"));
+}
+
+void tst_property_panel::liveLinesWithSettings()
+{
+    const Result result = play("list.json --live --settings new.ini", "press Loop, press Save");
+
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output, QByteArray("{\"continued\":false,\"name\":\"loop\",\"value\":true}\n"));
+    QVERIFY(read("new.ini").contains("loop=true"));
+}
+
+void tst_property_panel::liveLinesAsCommitted_data()
+{
+    QTest::addColumn<QByteArray>("arguments");
+    QTest::addColumn<QByteArray>("end");
+    QTest::addColumn<QList<QByteArray>>("lines");
+    const QByteArray saved = R"({"count":42})";
+    const QByteArray whole = R"({"continued":false,"name":"count","value":42})";
+    const QList<QByteArray> both = {R"({"continued":false,"name":"count","value":4})",
+                                    R"({"continued":true,"name":"count","value":42})", saved};
+
+    QTest::newRow("at once") << QByteArray() << QByteArray("press Save") << both;
+    QTest::newRow("live") << QByteArray("--commit live") << QByteArray("press Save") << both;
+    QTest::newRow("at a rate, the last before the save")
+        << QByteArray("--commit rate:1") << QByteArray("key Ctrl+S") << both;
+    QTest::newRow("when Return confirms it")
+        << QByteArray("--commit end") << QByteArray("key Return, key Ctrl+S")
+        << QList<QByteArray>{whole, saved};
+    QTest::newRow("when the field is left")
+        << QByteArray("--commit end") << QByteArray("key Tab, press Save")
+        << QList<QByteArray>{whole, saved};
+    QTest::newRow("before the save at the latest")
+        << QByteArray("--commit end") << QByteArray("key Ctrl+S")
+        << QList<QByteArray>{whole, saved};
+}
+
+void tst_property_panel::liveLinesAsCommitted()
+{
+    QFETCH(QByteArray, arguments);
+    QFETCH(QByteArray, end);
+    write("numbers.json", R"({"version": 1, "properties": [
+        {"name": "count", "type": "int", "min": 0, "max": 100, "default": 7}]})");
+
+    // From the panel over the slider into the field.
+    const Result result =
+        play("numbers.json --live " + arguments, "key Tab, key Tab, key 4, key 2, " + end);
+
+    QCOMPARE(result.status, 0);
+    QTEST(result.outputLines(), "lines");
 }
 
 void tst_property_panel::saveWithTheKeyboard()
@@ -673,9 +779,9 @@ void tst_property_panel::failedSaveKeepsTheWindow()
     const QByteArray arguments = "list.json --output " + output;
 
     // The window must still be there to be cancelled, and still know of the change.
-    const Result result = play(arguments.constData(),
-                               "line typed, press Save, key Ctrl+S, press Cancel, press Cancel, "
-                               "close, press Discard");
+    const Result result =
+        play(arguments, "line typed, press Save, key Ctrl+S, press Cancel, press Cancel, "
+                        "close, press Discard");
 
     QCOMPARE(result.status, 1);
     QCOMPARE(result.error.count("property-panel: error: Cannot write " + output), 2);
@@ -699,7 +805,7 @@ void tst_property_panel::cancelWritesNothing()
     QFETCH(QByteArray, steps);
     write("out.json", "before");
 
-    const Result result = play("list.json --output out.json", steps.constData());
+    const Result result = play("list.json --output out.json", steps);
 
     QCOMPARE(result.status, 1);
     QVERIFY(result.output.isEmpty());

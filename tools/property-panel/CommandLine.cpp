@@ -15,8 +15,10 @@ constexpr int kMaximumExtent = 10000;
 constexpr int kMaximumDigits = 5;
 
 const QString kValues = QStringLiteral("values");
+const QString kSettings = QStringLiteral("settings");
 const QString kOutput = QStringLiteral("output");
 const QString kLive = QStringLiteral("live");
+const QString kCommit = QStringLiteral("commit");
 const QString kCheck = QStringLiteral("check");
 const QString kRender = QStringLiteral("render");
 const QString kSize = QStringLiteral("size");
@@ -41,10 +43,19 @@ void describe(QCommandLineParser &parser)
         QStringLiteral("[LIST.json]"));
     parser.addOptions({
         {kValues, tr("Start from the values in <FILE> instead of the defaults."), tr("FILE")},
+        {kSettings,
+         tr("Start from the values in the INI file <FILE>, if it exists, and save to it. Values of "
+            "--values go before its own; its other keys stay."),
+         tr("FILE")},
         {kOutput, tr("Save to <FILE>, whole or not at all, instead of to standard output."),
          tr("FILE")},
         {kLive, tr("Print each change at once as one line of JSON: \"name\", \"value\" and, in "
                    "\"continued\", whether it goes on with the change before it.")},
+        {kCommit,
+         tr("When --live prints a change: live (the default), at once; rate:<N>, at most N times "
+            "a second, N from 1 to 1000, and always the last; end, when the drag or the typing "
+            "ends."),
+         tr("WHEN")},
         {kCheck, tr("List all that is wrong with the list and the values; show nothing.")},
         {kRender,
          tr("Draw the whole panel to <PNG>, and each further tab page to a file named "
@@ -63,7 +74,7 @@ void describe(QCommandLineParser &parser)
 /// The first of the options that was given an empty value, for which there is no use.
 QString emptyOption(const QCommandLineParser &parser)
 {
-    for (const QString &name : {kValues, kOutput, kRender}) {
+    for (const QString &name : {kValues, kSettings, kOutput, kRender}) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return name;
     }
@@ -114,6 +125,7 @@ Options pathsAndFlags(const QCommandLineParser &parser)
     options.task = taskOf(parser);
     options.listPath = parser.positionalArguments().value(0);
     options.valuesPath = parser.value(kValues);
+    options.settingsPath = parser.value(kSettings);
     options.outputPath = parser.value(kOutput);
     options.renderPath = parser.value(kRender);
     options.live = parser.isSet(kLive);
@@ -135,9 +147,43 @@ QString contradiction(const QCommandLineParser &parser)
         return tr("--%1 needs the name of a file.").arg(empty);
     if (parser.isSet(kCheck) && parser.isSet(kRender))
         return tr("--check and --render cannot be used together.");
+    if (parser.isSet(kSettings) && parser.value(kSettings) == parser.value(kOutput))
+        return tr("--settings and --output cannot name the same file.");
+    if (parser.isSet(kCommit) && !parser.isSet(kLive))
+        return tr("--commit is of use only with --live.");
     if (positional.value(0) == QLatin1String("-") && parser.value(kValues) == QLatin1String("-"))
         return tr("The list and the values cannot both come from standard input.");
     return QString();
+}
+
+void readSize(const QString &text, CommandLine &result)
+{
+    const std::optional<QSize> size = sizeFromText(text);
+    if (!size)
+        result.error = tr("\"%1\" is not a size; write width x height, such as 640x480, each "
+                          "from 1 to %2.")
+                           .arg(text)
+                           .arg(kMaximumExtent);
+    result.options.size = size.value_or(QSize());
+}
+
+void readTheme(const QString &text, CommandLine &result)
+{
+    const std::optional<Theme> theme = themeFromText(text);
+    if (!theme)
+        result.error = tr("There is no theme \"%1\"; choose system, light or dark.").arg(text);
+    result.options.theme = theme.value_or(Theme::System);
+}
+
+void readCommitMode(const QString &text, CommandLine &result)
+{
+    using PropertyHost::CommitMode;
+    const std::optional<CommitMode> mode = CommitMode::fromString(text);
+    if (!mode)
+        result.error = tr("\"%1\" is no time for --commit; choose live, end, or rate:N with N from "
+                          "1 to 1000.")
+                           .arg(text);
+    result.options.commitMode = mode.value_or(CommitMode::live());
 }
 
 } // namespace
@@ -154,22 +200,12 @@ CommandLine parseCommandLine(const QStringList &arguments)
     if (task == Options::Task::Help || task == Options::Task::Version)
         return result;
     result.error = contradiction(parser);
-    if (parser.isSet(kSize)) {
-        const std::optional<QSize> size = sizeFromText(parser.value(kSize));
-        if (!size)
-            result.error = tr("\"%1\" is not a size; write width x height, such as 640x480, each "
-                              "from 1 to %2.")
-                               .arg(parser.value(kSize))
-                               .arg(kMaximumExtent);
-        result.options.size = size.value_or(QSize());
-    }
-    if (parser.isSet(kTheme)) {
-        const std::optional<Theme> theme = themeFromText(parser.value(kTheme));
-        if (!theme)
-            result.error = tr("There is no theme \"%1\"; choose system, light or dark.")
-                               .arg(parser.value(kTheme));
-        result.options.theme = theme.value_or(Theme::System);
-    }
+    if (parser.isSet(kSize))
+        readSize(parser.value(kSize), result);
+    if (parser.isSet(kTheme))
+        readTheme(parser.value(kTheme), result);
+    if (parser.isSet(kCommit))
+        readCommitMode(parser.value(kCommit), result);
     return result;
 }
 
@@ -182,7 +218,7 @@ QString helpText()
                "\nExit status:\n"
                "  0  the values were saved, or what else was asked for was done\n"
                "  1  the user cancelled, or nobody reads the changes of --live any more and there\n"
-               "     is no --output; nothing was written\n"
+               "     is neither --output nor --settings; nothing was written\n"
                "  2  wrong options, an error in the list or the values, no display to show a\n"
                "     window on, or pictures that could not be written");
 }

@@ -2,6 +2,8 @@
 
 #include "Themes.h"
 
+#include <host/CommitPolicy.h>
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -14,13 +16,15 @@ struct Options
     enum class Task { Edit, Check, Render, Help, Version };
 
     Task task = Task::Edit;
-    QString listPath;   // empty: the built-in list; "-": standard input
-    QString valuesPath; // empty: the defaults; "-": standard input
-    QString outputPath; // empty: standard output
-    QString renderPath; // of the first picture
-    QSize size;         // invalid: as large as the panel wants
+    QString listPath;     // empty: the built-in list; "-": standard input
+    QString valuesPath;   // empty: the defaults; "-": standard input
+    QString settingsPath; // an INI file; empty: none
+    QString outputPath;   // empty: standard output, or nowhere with settings
+    QString renderPath;   // of the first picture
+    QSize size;           // invalid: as large as the panel wants
     Theme theme = Theme::System;
     bool live = false;
+    PropertyHost::CommitMode commitMode = PropertyHost::CommitMode::live(); // of the live lines
     bool trusted = false;
 };
 

@@ -1,5 +1,7 @@
 #include "Input.h"
 
+#include "SettingsFile.h"
+
 #include <host/InputFile.h>
 #include <host/PropertyListReader.h>
 
@@ -81,6 +83,9 @@ Input readInput(const Options &options)
              options.task, input);
     input.store = std::make_unique<PropertyHost::PropertyStore>();
     input.store->reset(input.list);
+    if (!options.settingsPath.isEmpty())
+        note(readSettingsFile(options.settingsPath, *input.store, input.list), options.settingsPath,
+             input);
     if (!options.valuesPath.isEmpty())
         readValues(options.valuesPath, input);
     return input;

@@ -21,7 +21,8 @@ struct Input
 };
 
 /// Reads the list and the values that the options name, with the built-in list and the defaults in
-/// place of what they do not name. A list without title gets one.
+/// place of what they do not name. Values of the values file go before those of the settings. A list
+/// without title gets one.
 Input readInput(const Options &options);
 
 } // namespace Tessark::PropertyPanel

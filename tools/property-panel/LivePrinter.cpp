@@ -32,6 +32,7 @@ bool isChange(const PropertyUI::Property &property, const QVariant &value)
 LivePrinter::LivePrinter(const PropertyHost::PropertyList &list, PropertyHost::PropertyStore *store,
                          QObject *parent)
     : QObject(parent)
+    , m_policy(this)
 {
     const auto properties = list.properties();
     for (PropertyUI::Property *property : properties)
@@ -39,8 +40,31 @@ LivePrinter::LivePrinter(const PropertyHost::PropertyList &list, PropertyHost::P
                        PropertyHost::valueToJson(*property, store->value(property)));
     connect(store, &PropertyHost::PropertyStore::valueChanged, this,
             [this](PropertyUI::Property *property, const QVariant &value, bool continued) {
-                print(*property, value, continued);
+                m_policy.setValue(property, value, continued ? ContinuedChange : NewChange);
             });
+}
+
+LivePrinter::~LivePrinter() = default;
+
+void LivePrinter::follow(PropertyUI::PropertyEditorPanel *panel, PropertyHost::CommitMode mode)
+{
+    m_policy.setDefaultMode(mode);
+    m_policy.watch(panel);
+}
+
+void LivePrinter::flush()
+{
+    m_policy.flush();
+}
+
+void LivePrinter::setValue(PropertyUI::Property *property, const QVariant &value, ChangeFlags flags)
+{
+    print(*property, value, flags.testFlag(ContinuedChange));
+}
+
+QVariant LivePrinter::value(PropertyUI::Property *)
+{
+    return QVariant(); // nobody asks
 }
 
 void LivePrinter::print(const PropertyUI::Property &property, const QVariant &value, bool continued)

@@ -2,9 +2,9 @@
 
 #include "GroupFolding.h"
 #include "PanelWidth.h"
+#include "SettingsFile.h"
 #include "StandardStreams.h"
 #include "TextureChoices.h"
-#include "UndoKeys.h"
 
 #include <core/KitColors.h>
 #include <host/PropertyList.h>
@@ -12,6 +12,7 @@
 #include <host/RuleEngine.h>
 #include <host/TextsAsWritten.h>
 #include <host/UndoDelegate.h>
+#include <host/UndoKeys.h>
 #include <host/ValueJson.h>
 #include <property/PropertyUI.h>
 
@@ -88,7 +89,9 @@ PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::P
     layout->addWidget(m_error);
     layout->addWidget(makeButtons());
     followStack();
-    new UndoKeys(this, [this] { return !m_pending.isEmpty(); });
+    auto *const keys = new PropertyHost::UndoKeys(m_stack, this);
+    // What is only typed is the field's own, and so are all keys before the first step.
+    keys->setFieldKeepsKeys([this] { return !m_pending.isEmpty() || m_stack->count() == 0; });
     m_panel->setFocus();
 }
 
@@ -103,7 +106,7 @@ PanelWindow::~PanelWindow()
 
 bool PanelWindow::hasUnsavedChanges() const
 {
-    return !m_stack->isClean() || !m_pending.isEmpty();
+    return hasChangedValues() || !m_pending.isEmpty();
 }
 
 QSize PanelWindow::sizeHint() const
@@ -118,9 +121,20 @@ QSize PanelWindow::sizeHint() const
         .boundedTo(screen()->availableSize() * kLargestShareOfScreen);
 }
 
+void PanelWindow::setSettingsPath(const QString &path)
+{
+    m_settingsPath = path;
+}
+
+PropertyUI::PropertyEditorPanel *PanelWindow::panel() const
+{
+    return m_panel;
+}
+
 void PanelWindow::save()
 {
     m_pending.commit();
+    Q_EMIT aboutToSave();
     if (m_writer.hasForeignContent())
         askAboutForeignContent();
     else
@@ -255,8 +269,19 @@ QAction *PanelWindow::addUndoAction(QAction *action, const QString &shortText, c
     return action;
 }
 
+/// Folding a group is a step and changes no value.
+bool PanelWindow::hasChangedValues() const
+{
+    for (int i = 0; i < m_stack->index(); ++i) {
+        if (!PropertyHost::UndoDelegate::isFolding(m_stack->command(i)))
+            return true;
+    }
+    return false;
+}
+
 void PanelWindow::followStack()
 {
+    m_delegate->attach(m_panel); // folds and opens groups; refresh() shows the values
     connect(m_delegate, &PropertyHost::UndoDelegate::valueRestored, this,
             [this] { m_panelIsStale = true; });
     // Once for a step of many values.
@@ -264,8 +289,8 @@ void PanelWindow::followStack()
         if (m_panelIsStale)
             refresh();
     });
-    connect(m_stack, &QUndoStack::cleanChanged, this,
-            [this](bool clean) { setWindowModified(!clean); });
+    connect(m_stack, &QUndoStack::indexChanged, this,
+            [this] { setWindowModified(hasChangedValues()); });
     connect(m_textures, &TextureChoices::filesDropped, this, &PanelWindow::showProblems);
     connect(m_rules, &PropertyHost::RuleEngine::rangeChanged, this,
             [this](PropertyUI::Property *property) { m_pending.noteShownValue(property); });
@@ -292,14 +317,16 @@ void PanelWindow::showProblems(const QStringList &problems)
 
 void PanelWindow::writeValues()
 {
-    const QString error = m_writer.write(m_store->toJson(m_list));
-    if (!error.isEmpty()) {
-        showProblems({error});
-        return;
+    QString error = m_writer.write(m_store->toJson(m_list));
+    if (error.isEmpty()) {
+        m_writer.noteContent(); // not to be taken for another program's, should the settings fail
+        if (!m_settingsPath.isEmpty())
+            error = writeSettingsFile(m_settingsPath, *m_store, m_list);
     }
-    m_writer.noteContent();
-    m_stack->setClean();
-    finish(ExitStatus::Saved);
+    if (error.isEmpty())
+        finish(ExitStatus::Saved);
+    else
+        showProblems({error});
 }
 
 void PanelWindow::makeQuestion(const QString &text, const QString &information,

@@ -52,8 +52,14 @@ public:
                 const ValuesWriter &writer);
     ~PanelWindow() override;
 
-    /// True when the values differ from those that the window started with.
+    /// True when values were changed since the window started, and not changed back by undo.
     bool hasUnsavedChanges() const;
+
+    /// Save writes the values to this INI file as well, none of them by default.
+    void setSettingsPath(const QString &path);
+
+    /// The panel in the window, which owns it.
+    PropertyUI::PropertyEditorPanel *panel() const;
 
     /// Large enough for the whole panel, if the screen is.
     QSize sizeHint() const override;
@@ -68,6 +74,9 @@ public Q_SLOTS:
     void resetAll();
 
 Q_SIGNALS:
+    /// All edits are in the store, and are written next.
+    void aboutToSave();
+
     /// The values were written (ExitStatus::Saved) or given up (Cancelled). Emitted once; the
     /// window is hidden by then.
     void finished(Tessark::PropertyPanel::ExitStatus status);
@@ -83,6 +92,7 @@ private:
     QScrollArea *makeScrollArea();
     QAction *addUndoAction(QAction *action, const QString &shortText, const QString &icon);
 
+    bool hasChangedValues() const;
     void followStack();
     void refresh();
     void showProblems(const QStringList &problems);
@@ -97,6 +107,7 @@ private:
     const PropertyHost::PropertyList &m_list;
     PropertyHost::PropertyStore *m_store;
     ValuesWriter m_writer;
+    QString m_settingsPath;
     QUndoStack *m_stack;
     PropertyHost::UndoDelegate *m_delegate;
     PropertyHost::RuleEngine *m_rules; // in front of m_delegate

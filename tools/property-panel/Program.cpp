@@ -42,16 +42,19 @@ ExitStatus render(const Input &input, const Options &options)
     return ExitStatus::BadInput;
 }
 
-bool printsLinesOnly(const Options &options)
+bool savesToFile(const Options &options)
 {
-    return options.live && options.outputPath.isEmpty();
+    return !options.outputPath.isEmpty() || !options.settingsPath.isEmpty();
 }
 
 ValuesWriter makeWriter(const Options &options)
 {
-    return ValuesWriter(options.outputPath, printsLinesOnly(options)
-                                                ? ValuesWriter::Layout::OneLine
-                                                : ValuesWriter::Layout::Indented);
+    using Layout = ValuesWriter::Layout;
+    const bool isElsewhere = options.outputPath.isEmpty() && !options.settingsPath.isEmpty();
+    const Layout layout = isElsewhere                             ? Layout::Nothing
+                          : options.live && !savesToFile(options) ? Layout::OneLine
+                                                                  : Layout::Indented;
+    return ValuesWriter(options.outputPath, layout);
 }
 
 void exitWith(ExitStatus status)
@@ -62,8 +65,10 @@ void exitWith(ExitStatus status)
 void printChanges(const Input &input, const Options &options, PanelWindow *window)
 {
     auto *const printer = new LivePrinter(input.list, input.store.get(), window);
+    printer->follow(window->panel(), options.commitMode);
+    QObject::connect(window, &PanelWindow::aboutToSave, printer, &LivePrinter::flush);
     // Without reader, and without another place for the values, nothing is left to do.
-    if (printsLinesOnly(options))
+    if (!savesToFile(options))
         QObject::connect(printer, &LivePrinter::outputLost, qApp,
                          [] { exitWith(ExitStatus::Cancelled); });
 }
@@ -71,6 +76,7 @@ void printChanges(const Input &input, const Options &options, PanelWindow *windo
 ExitStatus edit(const Input &input, const Options &options, const ValuesWriter &writer)
 {
     PanelWindow window(input.list, input.store.get(), writer);
+    window.setSettingsPath(options.settingsPath);
     if (options.live)
         printChanges(input, options, &window);
     // The window says how it ended; that it was the last one says nothing.

@@ -71,6 +71,8 @@ void ValuesWriter::noteContent()
 
 QString ValuesWriter::write(const QJsonObject &values) const
 {
+    if (m_layout == Layout::Nothing)
+        return QString();
     const QJsonDocument document(values);
     const QByteArray data = m_layout == Layout::OneLine
                                 ? document.toJson(QJsonDocument::Compact) + '\n'

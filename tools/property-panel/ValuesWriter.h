@@ -16,6 +16,7 @@ public:
     enum class Layout {
         Indented,
         OneLine, // as after the lines of --live, whose reader takes a line at a time
+        Nothing, // for values that are saved elsewhere
     };
 
     /// An empty path stands for standard output. Notes what the file holds now.

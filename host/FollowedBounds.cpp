@@ -42,12 +42,7 @@ QVariant boundVariant(const Property &property, QVector<double> numbers, double 
         std::transform(numbers.begin(), numbers.end(), numbers.begin(),
                        [round](double number) { return saturated(round(number)); });
     }
-    QJsonArray array;
-    for (const double number : std::as_const(numbers))
-        array.append(number);
-    const QJsonValue json = numbers.size() == 1 ? array.first() : QJsonValue(array);
-    ConversionError ignored;
-    return convertValue(property, json, QString(), ignored).value_or(QVariant());
+    return valueOfNumbers(property, numbers);
 }
 
 double roundUp(double number)

@@ -566,6 +566,14 @@ QVector<double> components(const QVariant &value)
     }
 }
 
+QVariant valueOfNumbers(const Property &property, const QVector<double> &numbers)
+{
+    const QJsonValue json =
+        numbers.size() == 1 ? QJsonValue(numbers.first()) : toJsonArray(numbers);
+    ConversionError ignored;
+    return convertValue(property, json, QString(), ignored).value_or(QVariant());
+}
+
 bool isAbove(const QVariant &value, const QVariant &bound)
 {
     const QVector<double> numbers = components(value);

@@ -27,6 +27,9 @@ QVariant initialValue(const PropertyUI::Property &property);
 /// The numbers that a value or bound consists of, in order, or none when it is not numeric.
 QVector<double> components(const QVariant &value);
 
+/// The value or bound of the property that consists of these numbers; invalid when there is none.
+QVariant valueOfNumbers(const PropertyUI::Property &property, const QVector<double> &numbers);
+
 /// True when both have the same number of components and one of value's is above its counterpart.
 bool isAbove(const QVariant &value, const QVariant &bound);
 

@@ -17,7 +17,8 @@
 namespace Tessark::PropertyHost {
 
 /**
- * The property list and delegate of a StructBinding, apart from the type of the struct.
+ * The property list and delegate of a StructBinding, apart from the type of the struct; what lists
+ * and delegates of other bindings share is here too.
  *
  * A value is read from the struct each time that a panel asks for it. A host that changes the struct
  * itself refreshes the panel with PropertyEditorPanel::updateUI().

@@ -436,12 +436,13 @@ const QMap<QString, HintForm> &vocabularyForms()
 const QMap<QString, HintForm> &hostForms()
 {
     const HintForm conditions{readConditions, writePlain};
-    const HintForm bound{readText, writePlain};
+    const HintForm text{readText, writePlain};
     static const QMap<QString, HintForm> s_forms{
+        {kHostHintHelp, text},
         {kHostHintVisibleWhen, conditions},
         {kHostHintEnabledWhen, conditions},
-        {kHostHintMinimumFollows, bound},
-        {kHostHintMaximumFollows, bound},
+        {kHostHintMinimumFollows, text},
+        {kHostHintMaximumFollows, text},
     };
     return s_forms;
 }

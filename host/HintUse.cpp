@@ -62,7 +62,7 @@ bool isForHosts(const QString &type)
 const QStringList &knownHints()
 {
     static const QStringList s_hints =
-        vocabularyHints() + QStringList{kHostHintTextures} + ruleHints();
+        vocabularyHints() + QStringList{kHostHintTextures, kHostHintHelp} + ruleHints();
     return s_hints;
 }
 

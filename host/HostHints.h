@@ -10,6 +10,9 @@ namespace Tessark::PropertyHost {
 /// QVariantList of PropertyUI::TextureChoice with unique names.
 inline constexpr QLatin1String kHostHintTextures("textures");
 
+/// What the row is for, in plain text; PropertyPanelView shows it.
+inline constexpr QLatin1String kHostHintHelp("help");
+
 // Rules, which RuleEngine applies to a panel.
 
 /// When the row, or all of the group, tab group or tab that it opens, is shown; and when it can be

@@ -60,6 +60,11 @@ PropertyRow &PropertyRow::styleSheet(const QString &styleSheet)
     return hint(kPropertyHintStyleSheet, styleSheet);
 }
 
+PropertyRow &PropertyRow::help(const QString &text)
+{
+    return hint(kHostHintHelp, text);
+}
+
 PropertyRow &PropertyRow::visibleWhen(const QString &condition)
 {
     return addCondition(kHostHintVisibleWhen, condition);

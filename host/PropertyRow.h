@@ -49,6 +49,9 @@ public:
     PropertyRow &size(const QSize &size);
     PropertyRow &styleSheet(const QString &styleSheet);
 
+    /// What the row is for, in plain text; PropertyPanelView shows it. Any row.
+    PropertyRow &help(const QString &text);
+
     // Any row; RuleEngine applies them. Conditions of several calls must all hold. What the
     // language of rules can say stands in docs/rules.md.
     PropertyRow &visibleWhen(const QString &condition);

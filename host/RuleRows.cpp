@@ -1,61 +1,24 @@
 #include "host/RuleRows_p.h"
 
 #include "host/EditorRange_p.h"
+#include "host/LayoutPause_p.h"
+#include "host/RowVisibility_p.h"
+#include "host/ViewPanel_p.h"
 
 #include <property/PropertyEditor.h>
 #include <property/PropertyEditorPanel.h>
 #include <property/PropertyLayout.h>
 
-#include <QChildEvent>
-#include <QLabel>
+#include <QEvent>
 #include <QSignalBlocker>
-#include <QSpacerItem>
-#include <QTabWidget>
 
 namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
 
-namespace {
-
-bool isHiddenByHand(const QWidget &widget)
-{
-    return widget.testAttribute(Qt::WA_WState_ExplicitShowHide)
-           && widget.testAttribute(Qt::WA_WState_Hidden);
-}
-
-/// The layout keeps its size hints until an item is added; they must follow the rows that are shown.
-void renewSizeHints(QLayout *layout)
-{
-    if (!qobject_cast<PropertyLayout *>(layout))
-        return;
-    layout->addItem(new QSpacerItem(0, 0));
-    delete layout->takeAt(layout->count() - 1);
-}
-
-/// For a page, also the sizes of the pages around it.
-void renewSizeHintsAround(const QWidget *page, const QWidget *panel)
-{
-    for (const QWidget *widget = page; widget; widget = widget->parentWidget()) {
-        renewSizeHints(widget->layout());
-        if (widget == panel)
-            return;
-    }
-}
-
-QTabWidget *tabWidgetOf(const QWidget *page)
-{
-    for (QWidget *parent = page->parentWidget(); parent; parent = parent->parentWidget()) {
-        if (auto *const tabs = qobject_cast<QTabWidget *>(parent))
-            return tabs;
-    }
-    return nullptr;
-}
-
-} // namespace
-
 RuleRows::RuleRows(PropertyEditorPanel *panel, const QSet<const Property *> &ruled)
     : m_panel(panel)
+    , m_visibility(visibilityOf(panel))
 {
     findRows();
     markRuled(ruled);
@@ -87,31 +50,28 @@ void RuleRows::apply()
     const QVector<int> dirty = std::exchange(m_dirty, {});
     for (const int row : dirty)
         collect(row, changed);
-    QSet<QWidget *> pages;
-    QVector<QPointer<QWidget>> paused;
-    for (const int row : std::as_const(changed)) {
-        QWidget *const page = at(row).field ? at(row).field->parentWidget() : nullptr;
-        if (!page || !qobject_cast<PropertyLayout *>(page->layout()) || pages.contains(page))
-            continue;
-        pages.insert(page);
-        paused.append(page);
-        m_paused.insert(page);
-        page->installEventFilter(this);
-        page->layout()->setEnabled(false);
-    }
     // What a widget that comes or goes calls may delete anything.
     const QPointer<RuleRows> self(this);
-    for (int i = 0; self && i < changed.size(); ++i)
-        show(changed.at(i));
-    for (const QPointer<QWidget> &page : std::as_const(paused)) {
-        if (!page || !page->layout())
-            continue;
-        page->layout()->setEnabled(true);
-        renewSizeHintsAround(page, self ? m_panel.data() : nullptr);
-        if (!self)
-            continue;
-        m_paused.remove(page);
-        page->removeEventFilter(this);
+    QVector<QPointer<QWidget>> pages;
+    {
+        LayoutPause pause;
+        for (const int row : std::as_const(changed)) {
+            QWidget *const page = at(row).field ? at(row).field->parentWidget() : nullptr;
+            if (!page || !qobject_cast<PropertyLayout *>(page->layout()) || pages.contains(page))
+                continue;
+            pages.append(page);
+            pause.add(page);
+        }
+        for (int i = 0; self && i < changed.size(); ++i)
+            show(changed.at(i));
+    }
+    if (self && m_visibility) {
+        m_visibility->apply();
+        return;
+    }
+    for (const QPointer<QWidget> &page : std::as_const(pages)) {
+        if (page)
+            renewSizeHintsAround(page, self ? m_panel.data() : nullptr);
     }
 }
 
@@ -140,13 +100,9 @@ void RuleRows::showRange(Property *property, const QVariant &value)
 
 bool RuleRows::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ChildRemoved && m_paused.contains(watched)) {
-        forgetWidget(static_cast<QWidget *>(watched), static_cast<QChildEvent *>(event)->child());
-        return false;
-    }
-    const bool isNews = event->type() == QEvent::ShowToParent
-                        || event->type() == QEvent::HideToParent
-                        || event->type() == QEvent::EnabledChange;
+    const bool isShowOrHide =
+        event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent;
+    const bool isNews = event->type() == QEvent::EnabledChange || (isShowOrHide && !m_visibility);
     const int row = isNews && watched != m_own ? m_rowOfWidget.value(watched, -1) : -1;
     if (row < 0)
         return false;
@@ -162,71 +118,15 @@ bool RuleRows::eventFilter(QObject *watched, QEvent *event)
 
 void RuleRows::findRows()
 {
-    QVector<PropertyEditor *> editors;
-    m_panel->getEditors(editors, QString());
-    QVector<const QLayout *> layouts;
-    QSet<const QLayout *> seen;
-    for (PropertyEditor *editor : std::as_const(editors)) {
-        QWidget *const field = editor ? editor->widget(nullptr) : nullptr;
-        if (!field)
-            continue;
+    const PanelRows rows(*m_panel);
+    for (const PanelRow &found : rows.all()) {
         const auto index = static_cast<int>(m_rows.size());
         Row row;
-        row.editor = editor;
-        row.field = field;
-        row.property = editor->editedProperty();
+        static_cast<PanelRow &>(row) = found;
         m_rows.push_back(row);
         m_rowsOf.insert(row.property, index);
-        m_rowOfWidget.insert(field, index);
-        const QLayout *const layout =
-            field->parentWidget() ? field->parentWidget()->layout() : nullptr;
-        if (qobject_cast<const PropertyLayout *>(layout) && !seen.contains(layout)) {
-            seen.insert(layout);
-            layouts.append(layout);
-        }
+        m_rowOfWidget.insert(row.field, index);
     }
-    for (const QLayout *layout : std::as_const(layouts))
-        walk(*layout);
-    for (int row = 0; row < static_cast<int>(m_rows.size()); ++row) {
-        if (at(row).property->type == kPropertyTypeTab)
-            findTabs(row);
-    }
-}
-
-/// Finds the labels of the rows of a page, and the groups that they lie in.
-void RuleRows::walk(const QLayout &layout)
-{
-    QVector<int> groups;
-    const QWidget *before = nullptr;
-    for (int i = 0; i < layout.count(); ++i) {
-        QWidget *const widget = layout.itemAt(i)->widget();
-        const int row = m_rowOfWidget.value(widget, -1);
-        if (widget && widget->property("endGroup").toBool() && !groups.isEmpty())
-            groups.removeLast();
-        if (row >= 0) {
-            at(row).group = groups.isEmpty() ? -1 : groups.last();
-            if (at(row).group >= 0)
-                at(at(row).group).members.append(row);
-            const bool hasLabel = !at(row).editor->hint(kPropertyHintFullWidth).toBool()
-                                  && !m_rowOfWidget.contains(before);
-            if (hasLabel && qobject_cast<const QLabel *>(before))
-                at(row).label = const_cast<QWidget *>(before);
-        }
-        if (row >= 0 && widget->property("beginGroup").toBool())
-            groups.append(row);
-        before = widget;
-    }
-}
-
-void RuleRows::findTabs(int row)
-{
-    QTabWidget *const tabs = tabWidgetOf(at(row).field);
-    at(row).tabs = tabs;
-    const int group = m_rowOfWidget.value(tabs, -1);
-    if (group < 0)
-        return;
-    at(group).members.append(row);
-    at(row).group = -1;
 }
 
 /// Groups come before their members, so one pass is enough.
@@ -260,6 +160,8 @@ void RuleRows::watch(Row &row)
 /// Connected behind the panel, which shows and hides the rows of the group first.
 void RuleRows::watchGroups()
 {
+    if (m_visibility)
+        return;
     QSet<const QWidget *> pages;
     for (const Row &row : m_rows) {
         if (row.isRuled)
@@ -319,7 +221,10 @@ void RuleRows::show(int row)
 {
     const Row wanted = at(row);
     const QPointer<RuleRows> self(this);
-    if (wanted.tabs && wanted.field) {
+    if (m_visibility) {
+        m_visibility->setHidden(m_visibility->rows().indexOf(wanted.field), RowVisibility::Rule,
+                                !wanted.shown);
+    } else if (wanted.tabs && wanted.field) {
         // The current page may change, which is no edit.
         const QSignalBlocker blocker(wanted.tabs);
         wanted.tabs->setTabVisible(wanted.tabs->indexOf(wanted.field), wanted.shown);
@@ -399,18 +304,6 @@ void RuleRows::othersEnabled(int row, QWidget *widget)
         at(row).wantedEnabled = enabled;
     if (enabled && !at(row).usable)
         setUsable(widget, false);
-}
-
-/// A disabled layout would keep the item of a widget that goes.
-void RuleRows::forgetWidget(QWidget *parent, const QObject *child)
-{
-    QLayout *const layout = parent->layout();
-    for (int i = 0; layout && i < layout->count(); ++i) {
-        if (layout->itemAt(i)->widget() == child) {
-            delete layout->takeAt(i);
-            return;
-        }
-    }
 }
 
 } // namespace Tessark::PropertyHost

@@ -1,32 +1,22 @@
 #pragma once
 
-#include <QHash>
+#include "host/PanelRows_p.h"
+
 #include <QObject>
-#include <QPointer>
 #include <QSet>
 #include <QVariant>
-#include <QVector>
-#include <QWidget>
-
-#include <vector>
-
-class QLayout;
-class QTabWidget;
-
-namespace Tessark::PropertyUI {
-class Property;
-class PropertyEditor;
-class PropertyEditorPanel;
-} // namespace Tessark::PropertyUI
 
 namespace Tessark::PropertyHost {
+
+class RowVisibility;
 
 /**
  * The rows of a panel as rules see them: shown or not, usable or not.
  *
  * Whether a row is shown has two sides, which both must agree: the rules, and whoever else shows and
  * hides widgets, such as a group that folds. This object remembers what the others want and keeps
- * the rules in force when they act. The same goes for enabling.
+ * the rules in force when they act. The same goes for enabling. Where a panel has a RowVisibility,
+ * the rules are one of its reasons instead.
  *
  * The panel and any of its widgets may go at any time.
  */
@@ -48,15 +38,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    struct Row
+    struct Row : PanelRow
     {
-        QPointer<PropertyUI::PropertyEditor> editor;
-        QPointer<QWidget> field;
-        QPointer<QWidget> label;
-        QPointer<QTabWidget> tabs; // of a tab's row: where its page is
-        const PropertyUI::Property *property = nullptr;
-        int group = -1;       // row of the group that it lies in, on the same page
-        QVector<int> members; // of a group, rows on the same page; of a tab group, its tabs
         bool isRuled = false; // by a rule of its own, of a group around it or of its tabs
         bool ruleVisible = true;
         bool ruleEnabled = true;
@@ -67,8 +50,6 @@ private:
     };
 
     void findRows();
-    void walk(const QLayout &layout);
-    void findTabs(int row);
     void markRuled(const QSet<const PropertyUI::Property *> &ruled);
     void watch(Row &row);
     void watchGroups();
@@ -85,15 +66,14 @@ private:
     void othersShowed(int row, QWidget *widget);
     void othersHid(int row, const QWidget *widget);
     void othersEnabled(int row, QWidget *widget);
-    void forgetWidget(QWidget *parent, const QObject *child);
 
     QPointer<PropertyUI::PropertyEditorPanel> m_panel;
+    QPointer<RowVisibility> m_visibility; // none for a plain panel
     std::vector<Row> m_rows;
     QMultiHash<const PropertyUI::Property *, int> m_rowsOf;
     QHash<const QObject *, int> m_rowOfWidget; // fields and labels
     QVector<int> m_dirty;                      // rows whose rules may want something else
     const QObject *m_own = nullptr;            // the widget that is being changed from here
-    QSet<const QObject *> m_paused;            // widgets whose layouts are disabled meanwhile
 };
 
 } // namespace Tessark::PropertyHost

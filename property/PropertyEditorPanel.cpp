@@ -237,6 +237,12 @@ void PropertyEditorPanel::contextMenuEvent(QContextMenuEvent *event)
     menu.exec(QCursor::pos());
 }
 
+void PropertyEditorPanel::showGroup(PropertyEditor *group, bool open)
+{
+    if (m_layout)
+        m_layout->setGroupVisible(group->widget(nullptr), open);
+}
+
 /// The first editor whose widget covers position. Geometries are compared unmapped, so only rows of
 /// the panel's own layout are told apart by it; that is accepted.
 PropertyEditor *PropertyEditorPanel::editorAt(const QPoint &position) const
@@ -286,8 +292,8 @@ void PropertyEditorPanel::forwardEdit(PropertyEditor *editor)
     m_interactiveChangeSeen = editorAlive && m_interactiveEditor == editorAlive;
     if (!m_interactiveChangeSeen)
         m_interactiveEditor = nullptr; // an edit elsewhere ends the running change
-    if (editorAlive && m_layout && property->type == kPropertyTypeBeginGroup)
-        m_layout->setGroupVisible(editor->widget(nullptr), editor->value().toBool());
+    if (editorAlive && property->type == kPropertyTypeBeginGroup)
+        showGroup(editor, editor->value().toBool());
 }
 
 void PropertyEditorPanel::beginRun(PropertyEditor *editor)

@@ -77,6 +77,10 @@ public Q_SLOTS:
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
+    /// Shows or hides the rows of a group that the user opened or closed, after the delegate was
+    /// told. This one does it for groups of the panel's own layout, and opens those inside, too.
+    virtual void showGroup(PropertyEditor *group, bool open);
+
 private Q_SLOTS: // for a host that connects by name; the panel's own connections know the editor
     void editorValueChanged();
     void startInteractiveChange();

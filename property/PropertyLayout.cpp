@@ -338,6 +338,17 @@ void PropertyLayout::setHorizontalSpacing(int spacing)
     m_horizontalSpacing = spacing;
 }
 
+void PropertyLayout::setLabelWidth(int width)
+{
+    const int labelWidth = std::max(width, -1);
+    if (m_labelWidth == labelWidth)
+        return;
+    m_labelWidth = labelWidth;
+    m_cachedSizeHint = QSize();
+    m_cachedMinimumSize = QSize();
+    invalidate();
+}
+
 void PropertyLayout::setGroupVisible(QWidget *groupWidget, bool visible)
 {
     const auto begin = std::find_if(m_items.begin(), m_items.end(), [groupWidget](const Entry &e) {
@@ -373,6 +384,21 @@ void PropertyLayout::setGroupVisible(QWidget *groupWidget, bool visible)
 
 QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
 {
+    return arrange(rect, testOnly, nullptr);
+}
+
+QSize PropertyLayout::smallestSize() const
+{
+    // Without any room, each item takes what it cannot do without.
+    qint64 right = 0;
+    const int height = arrange(QRect(), true, &right).height();
+    return {saturated(right + contentsMargins().right()), height};
+}
+
+/// doLayout(), which also tells, unless right is null, how far the rows reach when read from the
+/// left.
+QSize PropertyLayout::arrange(const QRect &rect, bool testOnly, qint64 *right) const
+{
     const QMargins margins = contentsMargins();
     Measure total = measure();
     if (!testOnly) {
@@ -403,6 +429,8 @@ QSize PropertyLayout::doLayout(const QRect &rect, bool testOnly, SizeType) const
             continue;
         place.left = qint64(margins.left()) + groupIndent(depth);
         sizeRow(row, qint64(rect.width()) - place.left - margins.right(), total);
+        if (right)
+            *right = std::max(*right, rightEdge(row, place));
         if (!testOnly && !placeRow(row, place))
             return {};
         place.top += qint64(row.height) + m_verticalSpacing;
@@ -453,6 +481,8 @@ PropertyLayout::Measure PropertyLayout::measure() const
             result.fixedHeight += qint64(rowHeight) + m_verticalSpacing;
     }
     result.fieldWidth = std::max(result.fieldWidth, rowWidth);
+    if (m_labelWidth >= 0)
+        result.labelWidth = m_labelWidth;
     return result;
 }
 
@@ -514,6 +544,8 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
         maximum.setWidth(entry.width);
     }
     entry.width = bounded(minimum.width(), entry.width, maximum.width());
+    if (entry.isLabel() && m_labelWidth >= 0)
+        entry.width = std::min(entry.width, m_labelWidth);
     if (takesShare)
         spareWidth -= qint64(entry.width) + m_horizontalSpacing;
 
@@ -526,6 +558,24 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
     } else {
         row.heightFloor = std::max(row.heightFloor, height);
     }
+}
+
+/// Where the last visible item of row ends. Follows placeRow().
+qint64 PropertyLayout::rightEdge(const Row &row, const RowPlace &place) const
+{
+    qint64 x = place.left;
+    qint64 edge = x;
+    for (std::size_t i = row.first; i <= row.last; ++i) {
+        const Entry &entry = m_items[i];
+        const bool isRowLabel = i == row.first && !(entry.options & FullWidth);
+        if (!entry.item->isEmpty())
+            edge = x + (isRowLabel ? place.labelWidth : entry.width);
+        if (isRowLabel)
+            x = place.left + place.labelWidth + m_labelSpacing;
+        else
+            x += qint64(entry.width) + m_horizontalSpacing;
+    }
+    return edge;
 }
 
 /// Gives the items of row their rectangles. False when one of them made the host change the list or

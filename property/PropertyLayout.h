@@ -80,6 +80,11 @@ public:
     void setVerticalSpacing(int spacing);
     void setHorizontalSpacing(int spacing);
 
+    /// The width of the label column in pixels; negative, as at first, for that of the widest label.
+    /// A label that is wider than the column is cut off.
+    int labelWidth() const { return m_labelWidth; }
+    void setLabelWidth(int width);
+
     /// Shows or hides everything between groupWidget, which begins a group, and the end of that
     /// group, nested groups and their markers included. Does nothing for a widget not in the layout.
     void setGroupVisible(QWidget *groupWidget, bool visible);
@@ -88,6 +93,11 @@ public:
     /// same for every SizeType. Placing ends early, with an invalid size, when an item that moves
     /// makes the host change the list of items or delete the layout.
     QSize doLayout(const QRect &rect, bool testOnly, SizeType sizeType) const;
+
+    /// The smallest size at which nothing is cut off or covered. Unlike minimumSize(), it counts rows
+    /// over both columns, indentation and gaps, takes fields as narrow as they can be, and is
+    /// measured anew with each call.
+    QSize smallestSize() const;
 
 private:
     struct Entry
@@ -110,11 +120,13 @@ private:
 
     void initialise(int spacing);
     void addChildItem(QWidget *widget, LayoutOptions options);
+    QSize arrange(const QRect &rect, bool testOnly, qint64 *right) const;
     bool endsRow(std::size_t index) const;
     Measure measure() const;
     void beginRowAt(std::size_t index, int labelWidth, Row &row) const;
     void sizeRow(Row &row, qint64 rowSpace, Measure &measure) const;
     void sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const;
+    qint64 rightEdge(const Row &row, const RowPlace &place) const;
     bool placeRow(const Row &row, const RowPlace &place) const;
     std::size_t indexAfter(const QLayoutItem *item, std::size_t index) const;
 
@@ -123,6 +135,7 @@ private:
     int m_verticalSpacing = 0;
     int m_horizontalSpacing = 0;
     int m_labelSpacing = 10;
+    int m_labelWidth = -1;
     mutable QSize m_cachedSizeHint;
     mutable QSize m_cachedMinimumSize;
 };

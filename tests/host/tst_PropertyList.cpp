@@ -245,6 +245,7 @@ void tst_PropertyList::rowSaysEverything()
             .tabPosition(QTabWidget::West)
             .radioButtons()
             .suffix(QStringLiteral(" m"))
+            .help(QStringLiteral("Help."))
             .decimals(3)
             .displayScale(0.5)
             .logarithmicSlider()
@@ -279,6 +280,7 @@ void tst_PropertyList::rowSaysEverything()
         {kPropertyHintStyleSheet, QStringLiteral("color: red")},
         {kHostHintMinimumFollows, QStringLiteral("low")},
         {kHostHintMaximumFollows, QStringLiteral("high")},
+        {kHostHintHelp, QStringLiteral("Help.")},
         {kPropertyHintEnabled, false},
         {kPropertyHintBoolHideLabel, true},
         {kPropertyHintAlignment, int(Qt::AlignTop | Qt::AlignRight)},
@@ -472,6 +474,7 @@ void tst_PropertyList::hintsComeBackEqual_data()
                              R"("use_native_dialogs": false)",
                              R"("textures": [])",
                              R"("textures": ["dot.png", {"name": "Dot", "file": "./dot.png"}])",
+                             R"("help": "What it is for.\n<b>")",
                              R"("visible_when": "true")",
                              R"("enabled_when": ["true", "not false"])",
                              R"("visible_when": ["1 < 2"])",

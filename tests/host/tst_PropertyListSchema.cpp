@@ -179,6 +179,7 @@ void tst_PropertyListSchema::schemaNamesEveryHint()
         kPropertyHintXfrmCollapsibleScale,
         kPropertyHintUseNativeDialogs,
         kHostHintTextures,
+        kHostHintHelp,
         kHostHintVisibleWhen,
         kHostHintEnabledWhen,
         kHostHintMinimumFollows,

@@ -48,6 +48,12 @@ public:
         return QVariant(property->name + QLatin1String(" of the host"));
     }
 
+    void showGroup(PropertyEditor *group, bool open) override
+    {
+        edits.append(group->editedProperty()->name
+                     + (open ? QStringLiteral(" opens") : QStringLiteral(" closes")));
+    }
+
     QStringList edits;
     bool passOn = true;
 };
@@ -123,6 +129,7 @@ private Q_SLOTS:
     void editsWithoutDelegate();
     void hostPanelSeesEdits();
     void hostPanelAnswersValues();
+    void hostPanelFoldsGroups();
 
     void updatePropertyTellsItsEditors();
     void updatePropertyComparesPointers();
@@ -674,6 +681,21 @@ void tst_PanelValueFlow::hostPanelSeesEdits()
     QCOMPARE(panel.edits,
              QStringList({QStringLiteral("A/0"), QStringLiteral("A/1"), QStringLiteral("A/1")}));
     QCOMPARE(m_delegate.log(), QStringList({QStringLiteral("A=1/0"), QStringLiteral("A=3/1")}));
+}
+
+void tst_PanelValueFlow::hostPanelFoldsGroups()
+{
+    m_set.add(kA, kPropertyTypeBeginGroup);
+    m_set.add(kB, kTest);
+    m_set.add(QString(), kPropertyTypeEndGroup);
+    HostPanel panel(m_set.list(), &m_delegate, nullptr);
+
+    panel.findChild<QCheckBox *>()->click();
+    panel.findChild<QCheckBox *>()->click();
+
+    QCOMPARE(panel.edits, QStringList({QStringLiteral("A/0"), QStringLiteral("A closes"),
+                                       QStringLiteral("A/0"), QStringLiteral("A opens")}));
+    QVERIFY(!editorOf<TestEditor>(panel, kB)->widget(nullptr)->isHidden());
 }
 
 void tst_PanelValueFlow::hostPanelAnswersValues()

@@ -137,6 +137,12 @@ private Q_SLOTS:
     void changeOfDirectionPlacesAnew();
     void labelWithExpandingPolicyKeepsItsWidth();
     void labelKeepsToItsLimits();
+    void labelColumnTakesTheWidthSet();
+    void labelWiderThanItsColumnIsCut();
+    void labelColumnBecomesAutomaticAgain();
+    void smallestSizeCountsWhatRowsNeed_data();
+    void smallestSizeCountsWhatRowsNeed();
+    void smallestSizeIsNotKept();
     void twoFieldsShareOddWidth();
     void threeFieldsShareWhatIsLeft();
     void limitedFieldLeavesRestToLaterOnes();
@@ -1954,6 +1960,100 @@ void tst_PropertyLayout::layoutDeletedWhilePlacing()
     place(300, 100);
 
     QVERIFY(!m_layout);
+}
+
+void tst_PropertyLayout::labelColumnTakesTheWidthSet()
+{
+    const FixedHintWidget *label = add(QSize(30, 10), kNewRow);
+    const FixedHintWidget *field = add(QSize(20, 10), kExpandHorizontal);
+    QCOMPARE(m_layout->labelWidth(), -1);
+    QCOMPARE(m_layout->sizeHint().width(), 68);
+
+    m_layout->setLabelWidth(80);
+    place(300, 100);
+
+    QCOMPARE(m_layout->labelWidth(), 80);
+    QCOMPARE(m_layout->sizeHint().width(), 118);
+    QCOMPARE(label->geometry(), QRect(54, 4, 30, 10));
+    QCOMPARE(field->geometry(), QRect(94, 4, 202, 10));
+}
+
+void tst_PropertyLayout::labelWiderThanItsColumnIsCut()
+{
+    const FixedHintWidget *label = add(QSize(90, 10), kNewRow);
+    const FixedHintWidget *field = add(QSize(20, 10), kExpandHorizontal);
+    FixedHintWidget *const limited = add(QSize(90, 10), kNewRow);
+    add(QSize(20, 10), kExpandHorizontal);
+    limited->setMinimumWidth(70);
+
+    m_layout->setLabelWidth(50);
+    place(300, 100);
+
+    QCOMPARE(label->geometry(), QRect(4, 4, 50, 10));
+    QCOMPARE(field->geometry(), QRect(64, 4, 232, 10));
+    QCOMPARE(m_layout->itemAt(2)->geometry().left(), 4); // flush with its column all the same
+}
+
+void tst_PropertyLayout::labelColumnBecomesAutomaticAgain()
+{
+    add(QSize(30, 10), kNewRow);
+    const FixedHintWidget *field = add(QSize(20, 10), kExpandHorizontal);
+    m_layout->setLabelWidth(80);
+    place(300, 100);
+
+    m_layout->setLabelWidth(-7);
+    place(300, 100);
+
+    QCOMPARE(m_layout->labelWidth(), -1);
+    QCOMPARE(field->x(), 44);
+    QCOMPARE(m_layout->sizeHint().width(), 68);
+}
+
+void tst_PropertyLayout::smallestSizeCountsWhatRowsNeed_data()
+{
+    QTest::addColumn<QVector<QPair<int, QSize>>>(
+        "items"); // options and hint; minimum is half of it
+    QTest::addColumn<QSize>("smallest");
+
+    using Items = QVector<QPair<int, QSize>>;
+    const int field = kExpandHorizontal;
+    const int whole = kFullWidth | kExpandHorizontal;
+    QTest::newRow("nothing") << Items() << QSize(4, 4);
+    QTest::newRow("label and field")
+        << Items{{kNewRow, {30, 10}}, {field, {80, 12}}} << QSize(4 + 30 + 10 + 40 + 4, 20);
+    QTest::newRow("row over both columns") << Items{{whole, {400, 10}}} << QSize(4 + 200 + 4, 18);
+    QTest::newRow("items side by side")
+        << Items{{kNewRow, {30, 10}}, {field, {80, 10}}, {0, {20, 10}}}
+        << QSize(4 + 30 + 10 + 40 + 4 + 20 + 4, 18);
+    QTest::newRow("two groups deep") << Items{{kFullWidth | kBeginGroup, {10, 10}},
+                                              {kFullWidth | kBeginGroup, {10, 10}},
+                                              {whole, {400, 10}}}
+                                     << QSize(4 + 16 + 200 + 4, 4 + 3 * 14);
+}
+
+void tst_PropertyLayout::smallestSizeCountsWhatRowsNeed()
+{
+    using Items = QVector<QPair<int, QSize>>;
+    QFETCH(Items, items);
+    QFETCH(QSize, smallest);
+    for (const auto &[options, hint] : std::as_const(items))
+        add(hint, Options(options))->setMinimumHint(QSize(hint.width() / 2, hint.height()));
+
+    QCOMPARE(m_layout->smallestSize(), smallest);
+
+    m_host->setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(m_layout->smallestSize(), smallest);
+}
+
+void tst_PropertyLayout::smallestSizeIsNotKept()
+{
+    add(QSize(50, 10), kFullWidth);
+    FixedHintWidget *const second = add(QSize(70, 10), kFullWidth);
+    QCOMPARE(m_layout->smallestSize(), QSize(78, 32));
+
+    second->hide();
+
+    QCOMPARE(m_layout->smallestSize(), QSize(58, 18));
 }
 
 void tst_PropertyLayout::twentyThousandItems()

@@ -165,6 +165,12 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     return row;
 }
 
+void chainTabOrder(const QVector<QWidget *> &controls)
+{
+    for (int i = 1; i < controls.size(); ++i)
+        QWidget::setTabOrder(controls.at(i - 1), controls.at(i));
+}
+
 void applyAlignmentHint(QLabel *label, const Property &property)
 {
     const QVariant alignment = property.hint(kPropertyHintAlignment);

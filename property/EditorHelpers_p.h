@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QSize>
+#include <QVector>
 
 #include <functional>
 #include <initializer_list>
@@ -97,6 +98,9 @@ int hundredthOf(int minimum, int maximum);
 
 /// A parentless row without margins holding the controls from left to right; it owns them.
 QWidget *makeRow(std::initializer_list<QWidget *> controls);
+
+/// Makes Tab visit the controls one after the other, from the first on. They have one window.
+void chainTabOrder(const QVector<QWidget *> &controls);
 
 /// Aligns the label as the "alignment" hint says (int, a set of Qt::Alignment bits), if there is one.
 void applyAlignmentHint(QLabel *label, const Property &property);

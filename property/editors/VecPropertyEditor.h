@@ -40,6 +40,7 @@ public:
     ~VecPropertyEditor() override;
 
     QWidget *widget(PropertyEditorContext *context) override;
+    QString controlName(const QWidget *control) const override;
 
 public Q_SLOTS:
     /// Shows all components, or only the first one, which the others then equal. Emits nothing.
@@ -65,6 +66,7 @@ private:
     QSlider *makeSlider(const ComponentRange &range);
     DoubleSpinBox *makeSpinBox(const ComponentRange &range, bool compact);
     UI::DisclosureButton *makeCheck();
+    void setTabOrderAsShown();
 
     static constexpr int kMaximumCount = 4;
 

@@ -2,6 +2,7 @@
 
 #include "property/PropertyEditorPanel.h"
 #include "property/SpokenRow_p.h"
+#include "property/SpokenText_p.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -29,6 +30,17 @@ QString nameFor(const SpokenControl &spoken)
     const bool isPart =
         whole && whole->focusProxy() == spoken.control && whole->focusPolicy() == Qt::NoFocus;
     return isPart && !whole->accessibleName().isEmpty() ? whole->accessibleName() : spoken.name;
+}
+
+/// What says something else than its name, as a combo box may say what it shows, tells the name here.
+QString descriptionFor(const SpokenControl &spoken)
+{
+    const QString name = spoken.control->accessibleName();
+    const QAccessibleInterface *const accessible =
+        QAccessible::queryAccessibleInterface(spoken.control);
+    const bool isSaid =
+        name.isEmpty() || !accessible || accessible->text(QAccessible::Name) == name;
+    return isSaid ? spoken.description : joinedParts({name, spoken.description});
 }
 
 } // namespace
@@ -156,18 +168,24 @@ void AccessibleRows::give(const QVector<SpokenControl> &controls)
 void AccessibleRows::give(const SpokenControl &spoken)
 {
     const QPointer<QWidget> control = spoken.control;
-    const Given before = m_given.value(control);
-    const Given now = {nameFor(spoken), spoken.description};
-    m_given.insert(control, now);
+    const QString name = nameFor(spoken);
+    const QString before = std::exchange(m_given[control].name, name);
+    const QString current = control->accessibleName();
+    const bool isFree = current.isEmpty() || current == before || current == spoken.ownName;
+    const QPointer<AccessibleRows> self(this);
+    if (isFree && current != name)
+        control->setAccessibleName(name);
+    if (self && control)
+        describe(control, descriptionFor(spoken));
+}
 
-    const QString name = control->accessibleName();
-    const bool nameIsFree = name.isEmpty() || name == before.name || name == spoken.ownName;
-    const QString description = control->accessibleDescription();
-    const bool descriptionIsFree = description.isEmpty() || description == before.description;
-    if (nameIsFree && name != now.name)
-        control->setAccessibleName(now.name);
-    if (control && descriptionIsFree && description != now.description)
-        control->setAccessibleDescription(now.description);
+void AccessibleRows::describe(QWidget *control, const QString &description)
+{
+    const QString before = std::exchange(m_given[control].description, description);
+    const QString current = control->accessibleDescription();
+    const bool isFree = current.isEmpty() || current == before;
+    if (isFree && current != description)
+        control->setAccessibleDescription(description);
 }
 
 } // namespace Tessark::PropertyUI

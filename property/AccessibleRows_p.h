@@ -48,6 +48,7 @@ private:
     void updateFor(const QWidget *focused);
     void give(const QVector<SpokenControl> &controls);
     void give(const SpokenControl &spoken);
+    void describe(QWidget *control, const QString &description);
 
     QHash<const QWidget *, Given> m_given; // what is not this is a host's
     bool m_updatesSoon = false;

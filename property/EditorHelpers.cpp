@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QAccessible>
 #include <QButtonGroup>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
@@ -77,6 +78,15 @@ double asHeldBy(const QDoubleSpinBox &spinBox, double number)
     return std::clamp(number, spinBox.minimum(), spinBox.maximum());
 }
 
+/// Unlike a slider, a spin box does not tell what its program sets.
+void tellAssistance(QAbstractSpinBox *spinBox, const QVariant &value)
+{
+    if (QAccessible::isActive()) {
+        QAccessibleValueChangeEvent event(spinBox, value);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
 } // namespace
 
 void showQuietly(QSpinBox *spinBox, int value)
@@ -84,14 +94,18 @@ void showQuietly(QSpinBox *spinBox, int value)
     if (!spinBox)
         return;
     const int held = std::clamp(value, spinBox->minimum(), spinBox->maximum());
-    if (!showsExactly(*spinBox, held))
+    if (!showsExactly(*spinBox, held)) {
         setQuietly(spinBox, &QSpinBox::setValue, value);
+        tellAssistance(spinBox, held);
+    }
 }
 
 void showQuietly(QDoubleSpinBox *spinBox, double value)
 {
-    if (spinBox && !showsExactly(*spinBox, asHeldBy(*spinBox, value)))
+    if (spinBox && !showsExactly(*spinBox, asHeldBy(*spinBox, value))) {
         setQuietly(spinBox, &QDoubleSpinBox::setValue, value);
+        tellAssistance(spinBox, spinBox->value());
+    }
 }
 
 void showText(QLineEdit *lineEdit, const QString &text)
@@ -165,10 +179,12 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     return row;
 }
 
-void chainTabOrder(const QVector<QWidget *> &controls)
+void visitBefore(QWidget *control, QWidget *next)
 {
-    for (int i = 1; i < controls.size(); ++i)
-        QWidget::setTabOrder(controls.at(i - 1), controls.at(i));
+    // Behind it at first: the order is a ring, and Qt leaves it alone where the last control is to
+    // come before the first.
+    QWidget::setTabOrder(next, control);
+    QWidget::setTabOrder(control, next);
 }
 
 void applyAlignmentHint(QLabel *label, const Property &property)

@@ -8,8 +8,10 @@
 #include "property/SpokenText_p.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QAccessible>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QHash>
 #include <QLabel>
@@ -22,6 +24,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Tessark::PropertyUI {
 
@@ -151,6 +154,8 @@ void collectControls(QWidget *widget, const RowWidgets &otherRows, QVector<QWidg
 {
     if (isFocusable(*widget) || isPicture(*widget))
         controls.append(widget);
+    if (const auto *const comboBox = qobject_cast<const QComboBox *>(widget))
+        controls.append(comboBox->view()); // its first child to assistive technology
     for (QObject *child : widget->children()) {
         auto *const part = qobject_cast<QWidget *>(child);
         if (part && !part->isWindow() && !otherRows.contains(part))
@@ -203,7 +208,7 @@ public:
         , m_controls(controls)
     {
         for (const QWidget *control : m_controls) {
-            const QString part = m_row.editor->controlName(control);
+            const QString part = partOf(control);
             m_parts.append(part);
             m_names.append(joinedParts({m_row.label, part}));
             if (!unitOf(control).isEmpty())
@@ -232,6 +237,12 @@ public:
     }
 
 private:
+    QString partOf(const QWidget *control) const
+    {
+        const bool isPopup = control->window() != m_row.widget->window();
+        return isPopup ? PropertyEditorPanel::tr("choices") : m_row.editor->controlName(control);
+    }
+
     bool isAmbiguous(int index) const { return m_names.count(m_names.at(index)) > 1; }
 
     void tellSlidersApart()

@@ -310,14 +310,13 @@ QWidget *Transform2DPropertyEditor::makeContainer()
     return container;
 }
 
-/// The button is the first child and stands before the slider of scale X.
+/// The button is the first child and stands before scale X, or else below the other rows.
 void Transform2DPropertyEditor::setTabOrderAsShown()
 {
-    QVector<QWidget *> controls;
-    for (std::size_t row = 0; row < m_rowCount; ++row)
-        controls << m_sliders[row] << m_spinBoxes[row];
-    controls.insert(2 * int(scaleXRow()), m_disclosureButton);
-    chainTabOrder(controls);
+    if (scaleXRow() < m_rowCount)
+        visitBefore(m_disclosureButton, m_sliders[scaleXRow()]);
+    else if (m_rowCount > 0)
+        QWidget::setTabOrder(m_spinBoxes[m_rowCount - 1], m_disclosureButton);
 }
 
 /// What the field shows, or fallback where there is none.

@@ -114,7 +114,7 @@ QWidget *VecPropertyEditor::makeContainer(bool showSliders, bool showCheck)
         m_multipleCheck = makeCheck();
         placer.place(m_multipleCheck, 0, 0);
         if (showSliders)
-            setTabOrderAsShown();
+            visitBefore(m_multipleCheck, m_sliders[0]);
     }
     return container;
 }
@@ -148,15 +148,6 @@ UI::DisclosureButton *VecPropertyEditor::makeCheck()
     auto *const check = makeRoundButton();
     connect(check, &UI::DisclosureButton::toggled, this, &VecPropertyEditor::setMultiple);
     return check;
-}
-
-/// The check is the last child and the first of the grid.
-void VecPropertyEditor::setTabOrderAsShown()
-{
-    QVector<QWidget *> controls = {m_multipleCheck};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(m_count); ++i)
-        controls << m_sliders[i] << m_spinBoxes[i];
-    chainTabOrder(controls);
 }
 
 void VecPropertyEditor::setMultiple(bool multiple)

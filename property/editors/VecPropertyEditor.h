@@ -66,7 +66,6 @@ private:
     QSlider *makeSlider(const ComponentRange &range);
     DoubleSpinBox *makeSpinBox(const ComponentRange &range, bool compact);
     UI::DisclosureButton *makeCheck();
-    void setTabOrderAsShown();
 
     static constexpr int kMaximumCount = 4;
 

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 #include <QVector2D>
 #include <QVector3D>
+#include <QVector4D>
 
 #include <memory>
 
@@ -131,18 +132,20 @@ private:
         using namespace Tessark::PropertyUI;
         add("views", kPropertyTypeBeginTabGroup);
         add("vectors", kPropertyTypeTab);
-        add("offset", kPropertyTypeVec2, QVector2D(1, 2)).setRange(-5.0, 5.0);
+        const QVector4D low(-5, -5, -5, -5);
+        const QVector4D high(5, 5, 5, 5);
+        add("offset", kPropertyTypeVec2, QVector2D(1, 2)).setRange(low, high);
         add("position", kPropertyTypeVec3, QVector3D(1, 2, 3))
-            .setRange(-5.0, 5.0)
+            .setRange(low, high)
             .setHint(kPropertyHintShowSliders, true);
         add("scale", kPropertyTypeVec3, QVector3D(1, 2, 3))
-            .setRange(-5.0, 5.0)
+            .setRange(low, high)
             .setHint(kPropertyHintShowSliders, true)
             .setHint(kPropertyHintShowMultipleCheck, true);
         add("stretch", kPropertyTypeVec2, QVector2D(1, 1))
-            .setRange(-5.0, 5.0)
+            .setRange(low, high)
             .setHint(kPropertyHintShowMultipleCheck, true);
-        add("crop", kPropertyTypeVec4, QVector3D(1, 2, 3)).setRange(-5.0, 5.0);
+        add("crop", kPropertyTypeVec4, QVector3D(1, 2, 3)).setRange(low, high);
         add("colors", kPropertyTypeTab);
         add("shade", kPropertyTypeBeginGroup);
         add("tint", kPropertyTypeColor, QColor(Qt::darkCyan));

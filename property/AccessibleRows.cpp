@@ -1,13 +1,16 @@
 #include "property/AccessibleRows_p.h"
 
 #include "property/PropertyEditorPanel.h"
+#include "property/SpokenNumber_p.h"
 #include "property/SpokenRow_p.h"
 #include "property/SpokenText_p.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QPointer>
+#include <QSpinBox>
 
 #include <algorithm>
 #include <utility>
@@ -135,10 +138,23 @@ void AccessibleRows::update()
         controls += spokenControls(row, widgets);
 
     QHash<const QWidget *, Given> given; // without those of controls that are gone
-    for (const SpokenControl &spoken : std::as_const(controls))
+    for (const SpokenControl &spoken : std::as_const(controls)) {
+        if (!m_given.contains(spoken.control))
+            followTyping(spoken.control);
         given.insert(spoken.control, m_given.value(spoken.control));
+    }
     m_given = given;
     give(controls);
+}
+
+void AccessibleRows::followTyping(QWidget *control)
+{
+    if (auto *const spinBox = qobject_cast<QSpinBox *>(control))
+        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), this,
+                [spinBox](int number) { tellNumber(spinBox, number); });
+    else if (auto *const fractions = qobject_cast<QDoubleSpinBox *>(control))
+        connect(fractions, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+                [fractions](double number) { tellNumber(fractions, number); });
 }
 
 /// A control that gets the focus is what is read out next.

@@ -45,6 +45,7 @@ private:
     PropertyEditorPanel *panel() const;
     void updateSoon();
     void update();
+    void followTyping(QWidget *control);
     void updateFor(const QWidget *focused);
     void give(const QVector<SpokenControl> &controls);
     void give(const SpokenControl &spoken);

@@ -2,10 +2,10 @@
 
 #include "core/DisclosureButton.h"
 #include "property/PropertyEditor.h"
+#include "property/SpokenNumber_p.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
-#include <QAccessible>
 #include <QButtonGroup>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
@@ -78,15 +78,6 @@ double asHeldBy(const QDoubleSpinBox &spinBox, double number)
     return std::clamp(number, spinBox.minimum(), spinBox.maximum());
 }
 
-/// Unlike a slider, a spin box does not tell what its program sets.
-void tellAssistance(QAbstractSpinBox *spinBox, const QVariant &value)
-{
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent event(spinBox, value);
-        QAccessible::updateAccessibility(&event);
-    }
-}
-
 } // namespace
 
 void showQuietly(QSpinBox *spinBox, int value)
@@ -96,7 +87,7 @@ void showQuietly(QSpinBox *spinBox, int value)
     const int held = std::clamp(value, spinBox->minimum(), spinBox->maximum());
     if (!showsExactly(*spinBox, held)) {
         setQuietly(spinBox, &QSpinBox::setValue, value);
-        tellAssistance(spinBox, held);
+        tellNumber(spinBox, held);
     }
 }
 
@@ -104,7 +95,7 @@ void showQuietly(QDoubleSpinBox *spinBox, double value)
 {
     if (spinBox && !showsExactly(*spinBox, asHeldBy(*spinBox, value))) {
         setQuietly(spinBox, &QDoubleSpinBox::setValue, value);
-        tellAssistance(spinBox, spinBox->value());
+        tellNumber(spinBox, spinBox->value());
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/RealSliderInterface_p.h"
 #include "property/EditorHelpers_p.h"
+#include "property/SpokenNumber_p.h"
 
 #include <QAccessible>
 
@@ -57,10 +58,8 @@ void ThousandthsSlider::setRealValue(double value)
 void ThousandthsSlider::sliderChange(SliderChange change)
 {
     QSlider::sliderChange(change);
-    if (change == SliderValueChange && QAccessible::isActive()) {
-        QAccessibleValueChangeEvent event(this, realValue());
-        QAccessible::updateAccessibility(&event);
-    }
+    if (change == SliderValueChange)
+        tellNumber(this, realValue());
 }
 
 } // namespace Tessark::PropertyUI

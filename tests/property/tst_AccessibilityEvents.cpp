@@ -145,6 +145,7 @@ void tst_AccessibilityEvents::valueChangesAreTold()
 
 void tst_AccessibilityEvents::editsOfAFieldAreTold()
 {
+    QCoreApplication::sendPostedEvents();
     auto *const field = m_rows->control<QAbstractSpinBox>(QStringLiteral("gain"));
     const ValueLog log;
 

@@ -309,9 +309,6 @@ void tst_AccessibilityBus::changesAreTold_data()
     QTest::newRow("channel") << "Tint, Red, slider"
                              << "Tint, Red, slider"
                              << "slider" << 0.25;
-    QTest::newRow("field of a channel") << "Tint, Red, slider"
-                                        << "Tint, Red"
-                                        << "spin box" << 0.5;
 }
 
 void tst_AccessibilityBus::changesAreTold()

@@ -53,6 +53,7 @@ void RealPosition::setScale(const Scale &scale, int positions)
         const QSignalBlocker blocker(m_slider);
         m_slider->setRange(0, isPoint ? 0 : std::clamp(positions, 1, kMostPositions));
         moveToValue();
+        tellValue();
     }
     announceRange(oldRange, oldPosition);
 }
@@ -95,6 +96,8 @@ void RealPosition::setValue(double value)
     if (std::isnan(value))
         return;
     takeValue(value);
+    if (m_isUntold && QAccessible::isActive() && positionOf(m_value) == m_slider->value())
+        tellValue();
     if (!m_unannounced) { // no signal is due after the move
         moveToValue();
         return;
@@ -153,10 +156,11 @@ void RealPosition::noteRangeChange()
 
 void RealPosition::noteValueChange()
 {
-    if (m_slider->value() == m_position)
-        return;
-    m_position = m_slider->value();
-    takeValue(at(m_position));
+    if (m_slider->value() != m_position) {
+        m_position = m_slider->value();
+        takeValue(at(m_position));
+    }
+    tellValue();
 }
 
 void RealPosition::letGo()
@@ -171,10 +175,16 @@ void RealPosition::takeValue(double value)
         return;
     m_value = bounded;
     m_unannounced = !m_slider->signalsBlocked();
-    if (QAccessible::isActive()) { // QAbstractSlider tells the position only
-        QAccessibleValueChangeEvent event(m_slider, m_value);
-        QAccessible::updateAccessibility(&event);
-    }
+    m_isUntold = true;
+}
+
+/// After QAbstractSlider, which tells the position.
+void RealPosition::tellValue()
+{
+    if (!std::exchange(m_isUntold, false) || !QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent event(m_slider, m_value);
+    QAccessible::updateAccessibility(&event);
 }
 
 void RealPosition::moveToValue()

@@ -65,6 +65,7 @@ private:
     virtual void letGo();
 
     void takeValue(double value);
+    void tellValue();
     void moveToValue();
     void announceValue();
     void announceRange(PositionRange oldRange, int oldPosition);
@@ -76,6 +77,7 @@ private:
     double m_maximum = 0;
     double m_value = 0;
     int m_position = 0;         // the position that m_value belongs to
+    bool m_isUntold = false;    // m_value changed and assistive technology does not know
     bool m_unannounced = false; // m_value changed and the signal of it is still to come
     bool m_wheelNeedsFocus = false;
     DragCancel m_dragCancel;

@@ -2,6 +2,7 @@
 
 #include "core/DisclosureButton.h"
 #include "property/PropertyEditor.h"
+#include "property/SpokenNumber_p.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -109,6 +110,10 @@ void showQuietly(QSpinBox *spinBox, int value)
     const int held = std::clamp(value, spinBox->minimum(), spinBox->maximum());
     if (!showsExactly(*spinBox, held))
         showChanged(spinBox, value, held);
+    if (!showsExactly(*spinBox, held)) {
+        setQuietly(spinBox, &QSpinBox::setValue, value);
+        tellNumber(spinBox, held);
+    }
 }
 
 void showQuietly(QDoubleSpinBox *spinBox, double value)
@@ -128,6 +133,10 @@ void showUnlessTyping(QDoubleSpinBox *spinBox, double value)
     // The focus is asked for last: Qt looks for the window first.
     if (!showsExactly(*spinBox, held) && !spinBox->hasFocus())
         showChanged(spinBox, value, held);
+    if (spinBox && !showsExactly(*spinBox, asHeldBy(*spinBox, value))) {
+        setQuietly(spinBox, &QDoubleSpinBox::setValue, value);
+        tellNumber(spinBox, spinBox->value());
+    }
 }
 
 void showText(QLineEdit *lineEdit, const QString &text)
@@ -199,6 +208,14 @@ QWidget *makeRow(std::initializer_list<QWidget *> controls)
     for (QWidget *control : controls)
         layout->addWidget(control);
     return row;
+}
+
+void visitBefore(QWidget *control, QWidget *next)
+{
+    // Behind it at first: the order is a ring, and Qt leaves it alone where the last control is to
+    // come before the first.
+    QWidget::setTabOrder(next, control);
+    QWidget::setTabOrder(control, next);
 }
 
 void applyAlignmentHint(QLabel *label, const Property &property)

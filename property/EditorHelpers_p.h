@@ -102,6 +102,9 @@ int hundredthOf(int minimum, int maximum);
 /// A parentless row without margins holding the controls from left to right; it owns them.
 QWidget *makeRow(std::initializer_list<QWidget *> controls);
 
+/// Makes Tab visit control right before next, which has the same window.
+void visitBefore(QWidget *control, QWidget *next);
+
 /// Aligns the label as the "alignment" hint says (int, a set of Qt::Alignment bits), if there is one.
 void applyAlignmentHint(QLabel *label, const Property &property);
 

@@ -1,7 +1,9 @@
 #include "property/PropertyEditor.h"
 
 #include "property/ControlKeeper_p.h"
+#include "property/SpokenText_p.h"
 
+#include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QKeyEvent>
 #include <QPointer>
@@ -44,6 +46,12 @@ void PropertyEditor::propertyChanged() {}
 QVariant PropertyEditor::hint(const QString &key)
 {
     return m_property->hint(key);
+}
+
+QString PropertyEditor::controlName(const QWidget *control) const
+{
+    const auto *const button = qobject_cast<const QAbstractButton *>(control);
+    return button ? spokenText(*button) : QString();
 }
 
 bool PropertyEditor::eventFilter(QObject *watched, QEvent *event)

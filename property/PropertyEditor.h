@@ -60,6 +60,12 @@ public:
     /// The hint as the panel is to see it: the property's own unless an editor decides otherwise.
     virtual QVariant hint(const QString &key);
 
+    /// What tells control, a part of the widget, from the others of the row, for those who hear its name
+    /// and do not see it: "Y", "Red". It is said after the row's label. Empty where the label is all
+    /// there is to say. This one gives the text of a button without its mnemonic, and nothing for any
+    /// other. Called only while assistive technology listens.
+    virtual QString controlName(const QWidget *control) const;
+
     /// The property being edited, as given to the constructor.
     Property *editedProperty() const { return m_property; }
 

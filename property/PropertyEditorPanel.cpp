@@ -1,5 +1,6 @@
 #include "property/PropertyEditorPanel.h"
 
+#include "property/AccessibleRows_p.h"
 #include "property/Property.h"
 #include "property/PropertyEditor.h"
 #include "property/PropertyEditorRegistry.h"
@@ -167,6 +168,7 @@ PropertyEditorPanel::PropertyEditorPanel(QVector<Property *> properties,
     // Only now, so that the rows' widgets are children behind all editors: whenever one of them is
     // painted, Qt looks through the children behind it.
     setLayout(topLayout);
+    AccessibleRows::refresh(this);
 }
 
 PropertyEditorPanel::~PropertyEditorPanel()
@@ -202,6 +204,8 @@ void PropertyEditorPanel::updateProperty(Property *property)
             editor->propertyChanged();
     }
     s_updatingProperty = false;
+    if (self)
+        AccessibleRows::refresh(this);
 }
 
 void PropertyEditorPanel::getEditors(QVector<PropertyEditor *> &editors, const QString &type) const

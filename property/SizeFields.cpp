@@ -43,6 +43,13 @@ SizeFields::SizeFields(PropertyEditor *editor, const QString &constrainText)
     }
 }
 
+QString SizeFields::nameOf(const QWidget *control) const
+{
+    if (control == m_spinBoxes[Width])
+        return PropertyEditor::tr("Width");
+    return control == m_spinBoxes[Height] ? PropertyEditor::tr("Height") : QString();
+}
+
 void SizeFields::show(const QSize &size)
 {
     showQuietly(m_spinBoxes[Width], size.width());

@@ -5,11 +5,11 @@
 #include <QPointer>
 #include <QSize>
 #include <QSpinBox>
+#include <QString>
 
 #include <array>
 
 class QObject;
-class QString;
 
 namespace Tessark::PropertyUI {
 
@@ -31,6 +31,9 @@ public:
     QLabel *label(Side side) const { return m_labels[side]; }
     QSpinBox *spinBox(Side side) const { return m_spinBoxes[side]; }
     QCheckBox *constrainCheck() const { return m_constrainCheck; } // null when left out
+
+    /// "Width" or "Height"; empty for anything else.
+    QString nameOf(const QWidget *control) const;
 
     void show(const QSize &size); // silently
     QSize size() const;           // invalid once the fields are gone

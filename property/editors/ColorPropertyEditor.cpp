@@ -101,6 +101,18 @@ QWidget *ColorPropertyEditor::widget(PropertyEditorContext *)
     return m_widget;
 }
 
+QString ColorPropertyEditor::controlName(const QWidget *control) const
+{
+    const std::array<QString, kChannelCount> names = {
+        UI::ColorControl::tr("Red"), UI::ColorControl::tr("Green"), UI::ColorControl::tr("Blue")};
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (control == m_spinBoxes[i] || control == m_channelSliders[i])
+            return names[i];
+    }
+    return control == m_colorWheel ? UI::ColorWheel::tr("Color wheel")
+                                   : PropertyEditor::controlName(control);
+}
+
 void ColorPropertyEditor::setInputColorAsInteger(bool asInteger)
 {
     m_inputAsInteger = asInteger;

@@ -51,6 +51,7 @@ public:
     void setValue(const QVariant &value) override;
     QVariant value() const override;
     QWidget *widget(PropertyEditorContext *context) override;
+    QString controlName(const QWidget *control) const override;
 
     /// Whether the entry fields show integers 0..255 instead of fractions 0..1 with 4 decimals
     /// (default). Before and after the widget is built; emits nothing.

@@ -4,6 +4,8 @@
 #include "property/EditorHelpers_p.h"
 #include "property/QtCompat_p.h"
 
+#include <QAbstractButton>
+
 namespace Tessark::PropertyUI {
 
 PropertyEditor *FilenamePropertyEditor::Factory(Property *property)
@@ -41,6 +43,13 @@ QWidget *FilenamePropertyEditor::widget(PropertyEditorContext *)
                 &PropertyEditor::valueChanged);
     }
     return m_widget;
+}
+
+QString FilenamePropertyEditor::controlName(const QWidget *control) const
+{
+    // The text of the only button is three dots.
+    return qobject_cast<const QAbstractButton *>(control) ? UI::FilenameField::tr("Browse")
+                                                          : PropertyEditor::controlName(control);
 }
 
 } // namespace Tessark::PropertyUI

@@ -31,6 +31,7 @@ public:
     void setValue(const QVariant &value) override;
     QVariant value() const override;
     QWidget *widget(PropertyEditorContext *context) override;
+    QString controlName(const QWidget *control) const override;
 
 private:
     QPointer<UI::FilenameField> m_filenameField; // same object as m_widget

@@ -3,6 +3,7 @@
 #include "core/LogSlider.h"
 #include "property/DoubleSpinBox.h"
 #include "property/EditorHelpers_p.h"
+#include "property/ThousandthsSlider_p.h"
 
 #include <QSlider>
 
@@ -112,7 +113,7 @@ QAbstractSlider *FloatPropertyEditor::makeLinearSlider() const
     const double maximum = m_property->maxValue.toDouble();
     const double unitsPerStored = m_displayScale * kSliderUnitsPerUnit;
     const double span = (maximum - minimum) * m_displayScale;
-    auto *const slider = new QSlider(Qt::Horizontal);
+    auto *const slider = new ThousandthsSlider;
     slider->setRange(sliderPosition(unitsPerStored * minimum),
                      sliderPosition(unitsPerStored * maximum));
     slider->setSingleStep(linearStep(2, span));

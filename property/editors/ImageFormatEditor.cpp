@@ -76,6 +76,12 @@ QWidget *ImageFormatEditor::widget(PropertyEditorContext *)
     return m_widget;
 }
 
+QString ImageFormatEditor::controlName(const QWidget *control) const
+{
+    const bool isQuality = control == m_qualitySlider || control == m_qualitySpinBox;
+    return isQuality ? tr("JPEG Quality") : PropertyEditor::controlName(control);
+}
+
 QLayout *ImageFormatEditor::makeFormatLine()
 {
     auto *const line = new QHBoxLayout;

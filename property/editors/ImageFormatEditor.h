@@ -51,6 +51,7 @@ public:
     void setValue(const QVariant &value) override;
     QVariant value() const override;
     QWidget *widget(PropertyEditorContext *context) override;
+    QString controlName(const QWidget *control) const override;
 
 private Q_SLOTS:
     void compressionRateChanged(int rate);

@@ -1,6 +1,7 @@
 #include "property/editors/PercentPropertyEditor.h"
 
 #include "property/EditorHelpers_p.h"
+#include "property/ThousandthsSlider_p.h"
 
 #include <QDoubleSpinBox>
 #include <QSlider>
@@ -67,7 +68,7 @@ void PercentPropertyEditor::makeSlider()
     const float minimum = m_property->minValue.toFloat();
     const float maximum = m_property->maxValue.toFloat();
     const float percentSpan = (maximum - minimum) * kPerCent;
-    m_slider = new QSlider(Qt::Horizontal);
+    m_slider = new ThousandthsSlider; // of a per cent
     m_slider->setRange(sliderPosition(double(minimum * kSliderUnits)),
                        sliderPosition(double(maximum * kSliderUnits)));
     m_slider->setSingleStep(sliderStep(2, percentSpan));

@@ -54,6 +54,12 @@ QWidget *RenderSizePropertyEditor::widget(PropertyEditorContext *)
     return m_widget;
 }
 
+QString RenderSizePropertyEditor::controlName(const QWidget *control) const
+{
+    const QString name = m_fields ? m_fields->nameOf(control) : QString();
+    return name.isEmpty() ? PropertyEditor::controlName(control) : name;
+}
+
 QWidget *RenderSizePropertyEditor::makeWidget()
 {
     m_fields = std::make_unique<SizeFields>(this, tr("Constrain Aspect"));

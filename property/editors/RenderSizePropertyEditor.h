@@ -39,6 +39,7 @@ public:
     void setValue(const QVariant &value) override;
     QVariant value() const override;
     QWidget *widget(PropertyEditorContext *context) override;
+    QString controlName(const QWidget *control) const override;
 
 private Q_SLOTS:
     void spinBoxValueChanged(int value);

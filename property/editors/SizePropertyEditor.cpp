@@ -53,6 +53,12 @@ QWidget *SizePropertyEditor::widget(PropertyEditorContext *)
     return m_widget;
 }
 
+QString SizePropertyEditor::controlName(const QWidget *control) const
+{
+    const QString name = m_fields ? m_fields->nameOf(control) : QString();
+    return name.isEmpty() ? PropertyEditor::controlName(control) : name;
+}
+
 void SizePropertyEditor::spinBoxValueChanged(int value)
 {
     if (m_fields)

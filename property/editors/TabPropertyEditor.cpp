@@ -35,6 +35,12 @@ QWidget *TabPropertyEditor::widget(PropertyEditorContext *)
     return m_widget;
 }
 
+QString TabPropertyEditor::controlName(const QWidget *control) const
+{
+    // Tab groups often have no label.
+    return control == m_tabWidget ? tr("Pages") : tr("Tabs");
+}
+
 QVariant TabPropertyEditor::hint(const QString &key)
 {
     return key == kPropertyHintFullWidth ? QVariant(true) : PropertyEditor::hint(key);

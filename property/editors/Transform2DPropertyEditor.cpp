@@ -2,6 +2,8 @@
 
 #include "core/DisclosureButton.h"
 #include "property/EditorHelpers_p.h"
+#include "property/SpokenText_p.h"
+#include "property/ThousandthsSlider_p.h"
 #include "property/Transform2D_p.h"
 
 #include <QDoubleSpinBox>
@@ -149,6 +151,16 @@ QWidget *Transform2DPropertyEditor::widget(PropertyEditorContext *)
     return m_widget;
 }
 
+QString Transform2DPropertyEditor::controlName(const QWidget *control) const
+{
+    for (std::size_t row = 0; row < m_rowCount; ++row) {
+        if (control == m_spinBoxes[row] || control == m_sliders[row])
+            return rowName(row);
+    }
+    return control == m_disclosureButton ? UI::DisclosureButton::tr("Expand")
+                                         : PropertyEditor::controlName(control);
+}
+
 bool Transform2DPropertyEditor::isScaleExpanded() const
 {
     return !m_disclosureButton || m_disclosureButton->isChecked();
@@ -225,6 +237,16 @@ void Transform2DPropertyEditor::makeRows()
         appendRow(tr("Y:"), kScale);
 }
 
+/// The label tells it, where it does not lean on the one above.
+QString Transform2DPropertyEditor::rowName(std::size_t row) const
+{
+    if (m_showPosition && row == 1)
+        return tr("Offset Y");
+    if (m_showScale && row == scaleYRow())
+        return tr("Scale Y");
+    return m_labels[row] ? spokenText(*m_labels[row]) : QString();
+}
+
 void Transform2DPropertyEditor::appendRow(const QString &label, const RowKind &kind)
 {
     m_labels[m_rowCount] = new QLabel(label);
@@ -235,7 +257,7 @@ void Transform2DPropertyEditor::appendRow(const QString &label, const RowKind &k
 
 QSlider *Transform2DPropertyEditor::makeSlider(const RowKind &kind)
 {
-    auto *const slider = new QSlider(Qt::Horizontal);
+    auto *const slider = new ThousandthsSlider;
     slider->setRange(positionOf(kind.minimum), positionOf(kind.maximum));
     slider->setValue(positionOf(kind.start));
     slider->setSingleStep(kind.singleStep);
@@ -283,7 +305,18 @@ QWidget *Transform2DPropertyEditor::makeContainer()
             grid->addWidget(m_sliders[i], row, 2);
         grid->addWidget(m_spinBoxes[i], row, 3);
     }
+    if (m_disclosureButton)
+        setTabOrderAsShown();
     return container;
+}
+
+/// The button is the first child and stands before scale X, or else below the other rows.
+void Transform2DPropertyEditor::setTabOrderAsShown()
+{
+    if (scaleXRow() < m_rowCount)
+        visitBefore(m_disclosureButton, m_sliders[scaleXRow()]);
+    else if (m_rowCount > 0)
+        QWidget::setTabOrder(m_spinBoxes[m_rowCount - 1], m_disclosureButton);
 }
 
 /// What the field shows, or fallback where there is none.

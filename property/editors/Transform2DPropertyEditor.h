@@ -72,6 +72,7 @@ public:
     void setValue(const QVariant &value) override;
     QVariant value() const override;
     QWidget *widget(PropertyEditorContext *context) override;
+    QString controlName(const QWidget *control) const override;
 
     /// Whether scale Y is unfolded; true too when there is no button to fold it.
     bool isScaleExpanded() const;
@@ -92,9 +93,11 @@ private:
     void readHints();
     void makeRows();
     void appendRow(const QString &label, const RowKind &kind);
+    QString rowName(std::size_t row) const;
     QSlider *makeSlider(const RowKind &kind);
     QDoubleSpinBox *makeSpinBox(const RowKind &kind);
     QWidget *makeContainer();
+    void setTabOrderAsShown();
     double numberIn(std::size_t row, double fallback) const;
     void showNumber(std::size_t row, double number);
     bool hasCollapsibleScale() const;

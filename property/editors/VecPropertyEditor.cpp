@@ -3,6 +3,7 @@
 #include "core/DisclosureButton.h"
 #include "property/DoubleSpinBox.h"
 #include "property/EditorHelpers_p.h"
+#include "property/ThousandthsSlider_p.h"
 #include "property/VectorConversions_p.h"
 
 #include <QGridLayout>
@@ -77,6 +78,18 @@ QWidget *VecPropertyEditor::widget(PropertyEditorContext *)
     return m_widget;
 }
 
+QString VecPropertyEditor::controlName(const QWidget *control) const
+{
+    const std::array<QString, kMaximumCount> names = {tr("X"), tr("Y"), tr("Z"), tr("W")};
+    for (std::size_t i = isMultiple() ? 0 : 1; i < names.size();
+         ++i) { // the first may stand for all
+        if (control == m_spinBoxes[i] || control == m_sliders[i])
+            return names[i];
+    }
+    return control == m_multipleCheck ? UI::DisclosureButton::tr("Expand")
+                                      : PropertyEditor::controlName(control);
+}
+
 QWidget *VecPropertyEditor::makeContainer(bool showSliders, bool showCheck)
 {
     const QVector4D minimum = toRangeVector(m_property->minValue);
@@ -100,13 +113,15 @@ QWidget *VecPropertyEditor::makeContainer(bool showSliders, bool showCheck)
     if (showCheck) {
         m_multipleCheck = makeCheck();
         placer.place(m_multipleCheck, 0, 0);
+        if (showSliders)
+            visitBefore(m_multipleCheck, m_sliders[0]);
     }
     return container;
 }
 
 QSlider *VecPropertyEditor::makeSlider(const ComponentRange &range)
 {
-    auto *const slider = new QSlider(Qt::Horizontal);
+    auto *const slider = new ThousandthsSlider;
     slider->setRange(positionOf(range.minimum), positionOf(range.maximum));
     watchSlider(slider, this);
     connect(slider, &QSlider::valueChanged, this, &VecPropertyEditor::sliderChanged);

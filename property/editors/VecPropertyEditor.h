@@ -40,6 +40,7 @@ public:
     ~VecPropertyEditor() override;
 
     QWidget *widget(PropertyEditorContext *context) override;
+    QString controlName(const QWidget *control) const override;
 
 public Q_SLOTS:
     /// Shows all components, or only the first one, which the others then equal. Emits nothing.

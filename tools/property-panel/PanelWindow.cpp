@@ -250,6 +250,7 @@ QScrollArea *PanelWindow::makeScrollArea()
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setWidget(m_panel);
+    area->setAccessibleName(QStringLiteral("Panel")); // it scrolls by keys
     return area;
 }
 

@@ -99,6 +99,7 @@ void showChanged(SpinBox *spinBox, Number value, Number held)
     setQuietly(spinBox, &SpinBox::setValue, value);
     if (paintsTextAlone)
         spinBox->setAttribute(Qt::WA_UpdatesDisabled, false);
+    tellNumber(spinBox, spinBox->value());
 }
 
 } // namespace
@@ -110,10 +111,6 @@ void showQuietly(QSpinBox *spinBox, int value)
     const int held = std::clamp(value, spinBox->minimum(), spinBox->maximum());
     if (!showsExactly(*spinBox, held))
         showChanged(spinBox, value, held);
-    if (!showsExactly(*spinBox, held)) {
-        setQuietly(spinBox, &QSpinBox::setValue, value);
-        tellNumber(spinBox, held);
-    }
 }
 
 void showQuietly(QDoubleSpinBox *spinBox, double value)
@@ -133,10 +130,6 @@ void showUnlessTyping(QDoubleSpinBox *spinBox, double value)
     // The focus is asked for last: Qt looks for the window first.
     if (!showsExactly(*spinBox, held) && !spinBox->hasFocus())
         showChanged(spinBox, value, held);
-    if (spinBox && !showsExactly(*spinBox, asHeldBy(*spinBox, value))) {
-        setQuietly(spinBox, &QDoubleSpinBox::setValue, value);
-        tellNumber(spinBox, spinBox->value());
-    }
 }
 
 void showText(QLineEdit *lineEdit, const QString &text)

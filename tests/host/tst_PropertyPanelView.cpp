@@ -131,10 +131,10 @@ private:
 };
 
 /// As the window system does it, whatever window the pointer is over.
-void movePointer(QWidget *widget, const QPoint &position)
+void movePointer(QWidget *widget, const QPoint &position, Qt::MouseButtons held = Qt::NoButton)
 {
     QMouseEvent event(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton,
-                      Qt::NoButton, Qt::NoModifier);
+                      held, Qt::NoModifier);
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(widget, &event);
 }
@@ -1101,7 +1101,7 @@ void tst_PropertyPanelView::splitterIsFixedAtFirst()
     const QPoint gap = gapOf(name("A"), name("a"));
 
     QTest::mousePress(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap);
-    QTest::mouseMove(m_view->panel(), gap + QPoint(50, 0));
+    movePointer(m_view->panel(), gap + QPoint(50, 0), Qt::LeftButton);
     QTest::mouseRelease(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap + QPoint(50, 0));
     settle();
 
@@ -1131,17 +1131,17 @@ void tst_PropertyPanelView::splitterIsDragged()
     const QPoint step(mirrored ? -30 : 30, 0);
 
     QTest::mousePress(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap);
-    QTest::mouseMove(m_view->panel(), gap + step);
+    movePointer(m_view->panel(), gap + step, Qt::LeftButton);
     settle();
     QCOMPARE(m_view->labelWidth(), labelWidth + 30);
     QCOMPARE(field(name("a"))->width(), fieldWidth - 30);
-    QTest::mouseMove(m_view->panel(), gap - 100 * step);
+    movePointer(m_view->panel(), gap - 100 * step, Qt::LeftButton);
     settle();
     QTest::mouseRelease(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap - 100 * step);
 
     QCOMPARE(m_view->labelWidth(), 24); // the smallest
     QCOMPARE(label(name("Another label"))->width(), 24);
-    QTest::mouseMove(m_view->panel(), gap);
+    movePointer(m_view->panel(), gap);
     QCOMPARE(m_view->labelWidth(), 24);
 }
 
@@ -1153,7 +1153,7 @@ void tst_PropertyPanelView::splitterKeepsFieldsInView()
     const QPoint gap = gapOf(name("Label"), name("a"));
 
     QTest::mousePress(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap);
-    QTest::mouseMove(m_view->panel(), gap + QPoint(5000, 0));
+    movePointer(m_view->panel(), gap + QPoint(5000, 0), Qt::LeftButton);
     QTest::mouseRelease(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap + QPoint(5000, 0));
     settle();
 

@@ -8,8 +8,6 @@
 
 #include "support/HeapUse.h"
 
-#include <property/editors/TexturePropertyEditor.h>
-
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
@@ -111,14 +109,6 @@ Run::Run(quint64 seed, qint64 events)
     , m_user(&m_host, &m_window, m_scrollArea, m_random)
 {
     m_host.watch(m_panel);
-    QVector<PropertyEditor *> textureEditors;
-    m_panel->getEditors(textureEditors, kPropertyTypeTexture);
-    QVector<TextureChoice> choices;
-    for (const QString &name : textureNames())
-        choices.append({name, QImage(), QIcon()});
-    for (PropertyEditor *editor : std::as_const(textureEditors))
-        qobject_cast<TexturePropertyEditor *>(editor)->setTextures(choices);
-
     m_scrollArea->setWidget(m_panel);
     m_scrollArea->setWidgetResizable(true);
     auto *const layout = new QVBoxLayout(&m_window);
@@ -190,8 +180,6 @@ void Run::sampleMemory()
     m_host.reset();
     m_window.resize(600, 700);
     QCoreApplication::processEvents();
-    QPixmapCache::clear();
-    QCoreApplication::processEvents();
     m_host.check(true);
     m_heap.push_back(heapInUse());
     std::printf("  %9lld events, %.0f KB of heap in use\n", static_cast<long long>(m_done),
@@ -248,6 +236,9 @@ int main(int argc, char *argv[])
     application.installEventFilter(&clockStopper);
     application.setCursorFlashTime(0);
     application.setQuitOnLastWindowClosed(false);
+    // Off, since Qt keeps the name of every picture that its style ever cached, also when the cache
+    // is cleared; and the style has a name for each size of each control.
+    QPixmapCache::setCacheLimit(0);
 
     QCommandLineParser parser;
     const QCommandLineOption eventsOption(QStringLiteral("events"), QString(),

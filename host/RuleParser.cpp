@@ -84,7 +84,7 @@ private:
     Term parseNot();
     Term parseComparison();
     Term parseMembership(const Term &value, bool negated);
-    Term parseCandidate(const Term &value);
+    Term parseCandidate(const Term &value, const Term &others);
     template <std::size_t N>
     Term parseChain(const Operator (&operators)[N], Term (Parser::*next)());
     Term parseSum() { return parseChain(kSums, &Parser::parseProduct); }
@@ -191,22 +191,24 @@ Term Parser::parseComparison()
     return left;
 }
 
-/// A value in a list is the same as comparisons with each of its entries.
 Term Parser::parseMembership(const Term &value, bool negated)
 {
     expectSign("[");
-    Term result = parseCandidate(value);
-    while (!hasFailed() && take(isSign(","))) {
-        const Term next = parseCandidate(value);
-        result = add(Kind::Or, RuleType::Boolean, result, next, value.position);
-    }
+    Term candidates = parseCandidate(value, {});
+    while (!hasFailed() && take(isSign(",")))
+        candidates = parseCandidate(value, candidates);
     expectSign("]");
+    const Term result = add(Kind::Among, RuleType::Boolean, value, candidates, value.position);
     return negated ? add(Kind::Not, RuleType::Boolean, result, {}, value.position) : result;
 }
 
-Term Parser::parseCandidate(const Term &value)
+/// What the value may be equal to, with the same mistakes as a comparison.
+Term Parser::parseCandidate(const Term &value, const Term &others)
 {
-    return addComparison(Kind::Equal, value, parseSum());
+    const Term candidate = parseSum();
+    if (!hasFailed())
+        checkComparison(Kind::Equal, value, candidate);
+    return add(Kind::Candidate, RuleType::Boolean, candidate, others, candidate.position);
 }
 
 template <std::size_t N>

@@ -118,6 +118,8 @@ RuleValue RuleTree::valueOf(int index, const Reader &reader) const
         return isTrue(self.left, reader) && isTrue(self.right, reader);
     if (self.kind == Kind::Or)
         return isTrue(self.left, reader) || isTrue(self.right, reader);
+    if (self.kind == Kind::Among)
+        return isAmong(self, reader);
 
     const RuleValue left = valueOf(self.left, reader);
     if (self.kind == Kind::Negate) {
@@ -131,6 +133,17 @@ RuleValue RuleTree::valueOf(int index, const Reader &reader) const
     const auto *const rightNumber = std::get_if<double>(&right);
     return leftNumber && rightNumber ? calculate(self.kind, *leftNumber, *rightNumber)
                                      : RuleValue();
+}
+
+/// The value is found out once for all candidates: lists within lists would take for ever otherwise.
+bool RuleTree::isAmong(const RuleNode &self, const Reader &reader) const
+{
+    const RuleValue value = valueOf(self.left, reader);
+    for (int candidate = self.right; candidate >= 0; candidate = node(candidate).right) {
+        if (compare(Kind::Equal, value, valueOf(node(candidate).left, reader)))
+            return true;
+    }
+    return false;
 }
 
 bool RuleTree::isTrue(int index, const Reader &reader) const

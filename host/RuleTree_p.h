@@ -43,6 +43,8 @@ struct RuleNode
         LessEqual,
         Greater,
         GreaterEqual,
+        Among,     // left in the list whose last Candidate is right
+        Candidate, // left, and the one before it is right
         Negate,
         Add,
         Subtract,
@@ -87,6 +89,7 @@ public:
 
 private:
     RuleValue valueOf(int index, const Reader &reader) const;
+    bool isAmong(const RuleNode &node, const Reader &reader) const;
     bool isTrue(int index, const Reader &reader) const;
 
     std::vector<RuleNode> m_nodes;

@@ -138,6 +138,7 @@ private Q_SLOTS:
     void longCircleIsNamedInPart();
     void longChainIsNoCircle();
     void manyMistakesAreReadInTime();
+    void listsInListsReadTheirValueOnce();
 };
 
 void tst_Rules::initTestCase()
@@ -683,6 +684,25 @@ void tst_Rules::manyMistakesAreReadInTime()
     QCOMPARE(problems.size(), 5000);
     // Suggestions for all would take 25 million comparisons of names, several minutes.
     QVERIFY2(timer.elapsed() < 30000, qPrintable(QString::number(timer.elapsed())));
+}
+
+// Else each list around another one would double the time.
+void tst_Rules::listsInListsReadTheirValueOnce()
+{
+    QString condition = name("(on) in [false, false]");
+    for (int i = 0; i < 12; ++i)
+        condition = QStringLiteral("(%1) in [true, true]").arg(condition);
+    PropertyList list;
+    fill(list);
+    const PropertyRow row = list.separator().visibleWhen(condition);
+    TestSupport::RecordingDelegate delegate;
+    delegate.values = sampleValues();
+
+    const RuleEngine engine(list, &delegate);
+
+    QVERIFY(engine.problems().isEmpty());
+    QVERIFY(!engine.isVisible(&row.property()));
+    QCOMPARE(delegate.reads.size(), 2); // to remember the value, and to evaluate the rule
 }
 
 QTEST_MAIN(tst_Rules)

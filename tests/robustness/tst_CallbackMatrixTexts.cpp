@@ -78,13 +78,16 @@ QString nextDirectory()
     return s_root.filePath(name);
 }
 
-/// Lets events be handled until it is so, or so late that it will never be.
-template <typename Condition>
-void waitUntil(Condition isSo)
+/// Lets the end of the dialog be told, and the dialog go. With Qt 5 it would otherwise stay until
+/// control is back in the event loop, and all the time would be waited for nothing.
+void waitForEndOf(const QPointer<QFileDialog> &dialog)
 {
-    const QDeadlineTimer end(1000);
-    while (!isSo() && !end.hasExpired())
+    const QDeadlineTimer end(1000); // so late that it never ends
+    while (dialog && !end.hasExpired()) {
         QCoreApplication::processEvents();
+        if (dialog && dialog->isHidden())
+            QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);
+    }
 }
 
 Gesture fileDialog()
@@ -99,7 +102,7 @@ Gesture fileDialog()
             if (!dialog || !QTest::qWaitForWindowExposed(dialog))
                 return;
             acceptByTyping(dialog, nextDirectory());
-            waitUntil([&] { return dialog.isNull(); });
+            waitForEndOf(dialog);
         }};
 }
 

@@ -1,15 +1,22 @@
 #include "SoakHost.h"
 
+#include "support/TransformNumbers.h"
+
 #include <core/ColorWheel.h>
 #include <core/DisclosureButton.h>
+#include <property/editors/TexturePropertyEditor.h>
 
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Tessark;
 using namespace Tessark::PropertyUI;
@@ -25,7 +32,7 @@ bool isVector(const Property *property)
 }
 
 /// Whether its editor takes no value back while it announces what was typed. What its sliders make
-/// is shown the same when it comes back.
+/// is shown the same when it comes back; what folding makes is taken back, see folds().
 bool ignoresEchoes(const Property *property)
 {
     return property->type == kPropertyTypeFloat || property->type == kPropertyTypePercent
@@ -128,6 +135,8 @@ void SoakHost::connectTo(Item &item)
         watchRunControls(item);
     if (isVector(property))
         watchUniformToggle(item);
+    else if (property->type == kPropertyTypeTransform2D)
+        watchScaleToggle(item);
 }
 
 void SoakHost::watchRunControls(Item &item)
@@ -164,6 +173,51 @@ void SoakHost::watchUniformToggle(Item &item)
     });
 }
 
+void SoakHost::watchScaleToggle(Item &item)
+{
+    item.scaleToggle = item.editor->widget(nullptr)->findChild<UI::DisclosureButton *>();
+    if (!item.scaleToggle)
+        return;
+    const Property *const property = item.row->property;
+    connect(item.scaleToggle, &UI::DisclosureButton::toggled, this,
+            [this, property](bool unfolded) {
+                Item &toggled = itemOf(property);
+                toggled.isUnfolded = unfolded;
+                if (unfolded)
+                    scaleUnfolded(toggled);
+            });
+}
+
+/// Its last field, scale Y, counts again with what it held before scale X was edited alone, which no
+/// signal of the editor tells. The others are as they were.
+void SoakHost::scaleUnfolded(Item &item)
+{
+    const auto fields = item.editor->widget(nullptr)->findChildren<QDoubleSpinBox *>();
+    TestSupport::Numbers numbers{};
+    std::transform(fields.begin(), fields.end(), numbers.begin(),
+                   [](const QDoubleSpinBox *field) { return field->value(); });
+    const DoubleMatrix3x3 now = TestSupport::matrixOf(numbers);
+    const auto before = item.shown.value<DoubleMatrix3x3>();
+    const bool isOnlyScaleY = std::equal(now.constData(), now.constData() + 3, before.constData());
+    expect(isOnlyScaleY, item, QStringLiteral("unfolded and changed more than scale Y"));
+    item.shown = QVariant::fromValue(now);
+}
+
+void SoakHost::lookAtToggles()
+{
+    for (Item &item : m_items) {
+        if (item.scaleToggle)
+            item.isUnfolded = item.scaleToggle->isChecked();
+    }
+}
+
+/// Whether the user folds the scale now. While the editor announces that it shows what the host
+/// gives it, and so rounds what the arrows of its fields made: they add their step as it is.
+bool SoakHost::folds(const Item &item)
+{
+    return item.isUnfolded && !item.scaleToggle->isChecked();
+}
+
 void SoakHost::setValue(Property *property, const QVariant &value, ChangeFlags flags)
 {
     Item &item = itemOf(property);
@@ -176,7 +230,8 @@ void SoakHost::setValue(Property *property, const QVariant &value, ChangeFlags f
         item.stored = item.shown;
     item.shown = item.stored;
     // A vector's hidden components and sliders follow only when the value comes back.
-    const QScopedValueRollback<const Property *> announcing(m_announcing, property);
+    const QScopedValueRollback<const Property *> announcing(m_announcing,
+                                                            folds(item) ? nullptr : property);
     if (m_panel && (isVector(property) || happens(m_random, 50)))
         refresh();
 }
@@ -207,6 +262,7 @@ void SoakHost::refresh()
     ++m_refreshes;
     m_panel->updateUI();
     --m_refreshes;
+    lookAtToggles(); // which a value moves silently
 }
 
 void SoakHost::setSomeValue()
@@ -343,6 +399,13 @@ SoakPanel::SoakPanel(const Rows &rows, SoakHost *host)
     : PropertyEditorPanel(rows.list(), host, nullptr)
     , m_host(host)
 {
+    QVector<PropertyEditor *> textureEditors;
+    getEditors(textureEditors, kPropertyTypeTexture);
+    QVector<TextureChoice> choices;
+    for (const QString &name : textureNames())
+        choices.append({name, QImage(), QIcon()});
+    for (PropertyEditor *editor : std::as_const(textureEditors))
+        qobject_cast<TexturePropertyEditor *>(editor)->setTextures(choices);
 }
 
 void SoakPanel::setValue(Property *property, const QVariant &value,

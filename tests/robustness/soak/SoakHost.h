@@ -9,9 +9,12 @@
 #include <QStringList>
 #include <QVector>
 
-class QDoubleSpinBox;
 class QLineEdit;
 class QListWidget;
+
+namespace Tessark::UI {
+class DisclosureButton;
+}
 
 namespace Soak {
 
@@ -79,12 +82,18 @@ private:
         QVector<QWidget *> runControls; // those that open a run while focused or pressed
         QLineEdit *lineEdit = nullptr;  // of a text that is announced when it is finished
         QListWidget *list = nullptr;    // of textures
+        Tessark::UI::DisclosureButton *scaleToggle = nullptr; // of a transform, if it has one
+        bool isUnfolded = false;                              // as its toggle was last seen
     };
 
     Item &itemOf(const Tessark::PropertyUI::Property *property);
     void connectTo(Item &item);
     void watchRunControls(Item &item);
     void watchUniformToggle(Item &item);
+    void watchScaleToggle(Item &item);
+    void scaleUnfolded(Item &item);
+    void lookAtToggles();
+    static bool folds(const Item &item);
     bool keepsTyping(const Item &item) const;
     bool isPending(const Item &item) const;
     void checkValue(const Item &item);
@@ -100,8 +109,8 @@ private:
     QHash<const Tessark::PropertyUI::Property *, int> m_indexes;
     Tessark::PropertyUI::PropertyEditorPanel *m_panel = nullptr;
     QStringList m_faults;
-    int m_refreshes = 0; // that run now
-    const Tessark::PropertyUI::Property *m_announcing = nullptr;
+    int m_refreshes = 0;                                         // that run now
+    const Tessark::PropertyUI::Property *m_announcing = nullptr; // unless by folding
     qint64 m_checks = 0;
     qint64 m_changes = 0;
     qint64 m_continuedChanges = 0;

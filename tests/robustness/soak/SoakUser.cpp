@@ -130,6 +130,7 @@ QString SoakUser::act()
         return usePopup(popup);
     if (QWidget *dialog = QApplication::activeModalWidget())
         return useDialog(dialog);
+    keepWindowActive();
     const int choice = below(m_random, 1000);
     if (m_pressedIn && choice < 700)
         return happens(m_random, 75) ? drag() : release();
@@ -303,6 +304,16 @@ void SoakUser::letGo()
         focus->clearFocus();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// As a window system does when a popup goes and when the window is clicked into. Where it does not,
+/// the program stays without an active window, and none of its widgets gets the focus.
+void SoakUser::keepWindowActive()
+{
+    if (QApplication::activeWindow() == m_window)
+        return;
+    m_window->activateWindow();
+    QCoreApplication::processEvents();
 }
 
 bool SoakUser::hasPopup()

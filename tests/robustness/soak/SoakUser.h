@@ -31,6 +31,7 @@ public:
     static bool hasPopup();
 
 private:
+    void keepWindowActive();
     QString press();
     QString drag();
     QString release();

@@ -63,7 +63,9 @@ QStringList namesIn(QWidget *row)
 {
     QStringList names;
     for (QAccessibleInterface *each : treeOf(row)) {
-        if (each->state().focusable && each->object())
+        // Qt 5 does not say of lists that they take the focus.
+        const bool isControl = each->state().focusable || each->role() == QAccessible::List;
+        if (isControl && each->object())
             names.append(each->text(QAccessible::Name));
     }
     return names;

@@ -13,6 +13,7 @@ option(TESSARK_BUILD_TOOLS "Build the property-panel program" ${PROJECT_IS_TOP_L
 option(TESSARK_DEVELOPER "Treat warnings as errors" OFF)
 option(TESSARK_COVERAGE "Measure line coverage (GCC)" OFF)
 option(TESSARK_FUZZ "Build the fuzz targets for libFuzzer (clang)" OFF)
+option(TESSARK_PRECOMPILE_QT "Compile Qt's headers once for all sources (with the tests)" OFF)
 set(TESSARK_SANITIZE "" CACHE STRING
     "Sanitizers to build with, comma separated (for example address,undefined)")
 

@@ -197,7 +197,7 @@ std::optional<QVariant> Application::read(const QString &text, const QString &wo
 std::optional<QVariant> Application::readBound(const QString &text, const QString &key)
 {
     ConversionError error;
-    const auto bound = convertValue(m_row, numbersOf(text), QString(), error);
+    auto bound = convertValue(m_row, numbersOf(text), QString(), error);
     if (!bound)
         tell(kRange, childPointer(QString(), key),
              QStringLiteral("%1: %2").arg(quoted(text), error.message));

@@ -153,7 +153,8 @@ void LabelScrubber::beginRun(const QLabel &label)
     if (!field.isAlive())
         return;
     const QPointer<LabelScrubber> self(this);
-    auto run = std::make_unique<ScrubRun>(field);
+    auto run = std::make_unique<ScrubRun>(field); // asks the host, who may delete anything
+    // cppcheck-suppress identicalConditionAfterEarlyExit
     if (!self || !field.isAlive())
         return;
     m_run = std::move(run);

@@ -17,6 +17,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Tessark::PropertyHost {
@@ -114,9 +115,11 @@ void ObjectDelegate::forget(const void *objectOrGadget)
     const auto isOthers = [objectOrGadget](const Source &source) {
         return source.address != objectOrGadget;
     };
-    const auto first = std::stable_partition(m_sources.begin(), m_sources.end(), isOthers);
-    const std::vector<Source> forgotten(first, m_sources.end());
-    m_sources.erase(first, m_sources.end());
+    std::vector<Source> others;
+    std::vector<Source> forgotten;
+    std::partition_copy(m_sources.begin(), m_sources.end(), std::back_inserter(others),
+                        std::back_inserter(forgotten), isOthers);
+    m_sources = std::move(others);
     for (const Source &source : forgotten)
         release(source);
 }

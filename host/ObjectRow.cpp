@@ -88,12 +88,12 @@ bool ObjectRow::reset()
 void ObjectRow::show()
 {
     if (m_views.size() == 1) {
-        showIn(m_views.front());
+        showIn(View(m_views.front()));
         return;
     }
     const QPointer<ObjectRow> self(this);
     for (int i = 0; self && i < m_views.size(); ++i)
-        showIn(m_views[i]);
+        showIn(View(m_views[i]));
 }
 
 void ObjectRow::connectNotification()
@@ -167,8 +167,8 @@ bool ObjectRow::change(Change makeChange)
     return self && canChange;
 }
 
-/// The row may be gone afterwards.
-void ObjectRow::showIn(View view)
+/// The row may be gone afterwards, and its views changed.
+void ObjectRow::showIn(const View &view)
 {
     PropertyEditorPanel *const panel = view.panel();
     if (!panel || !view.editor)

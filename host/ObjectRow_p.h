@@ -98,7 +98,7 @@ private:
 
     template <typename Change>
     bool change(Change makeChange);
-    void showIn(View view);
+    void showIn(const View &view);
     void showResult();
     void setInRun(const PropertyUI::PropertyEditor *editor, bool isInRun);
     void showUnlessShown(const View &view);

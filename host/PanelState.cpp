@@ -91,12 +91,12 @@ std::optional<PanelState> PanelState::fromJson(const QJsonObject &json)
     PanelState state;
     const QJsonObject groups = json.value(kGroups).toObject();
     for (auto it = groups.begin(); it != groups.end(); ++it) {
-        for (const QJsonValue &open : it.value().toArray())
+        for (const auto &open : it.value().toArray())
             state.openGroups[it.key()].append(open.toBool(true));
     }
     const QJsonObject tabs = json.value(kTabs).toObject();
     for (auto it = tabs.begin(); it != tabs.end(); ++it) {
-        for (const QJsonValue &value : it.value().toArray()) {
+        for (const auto &value : it.value().toArray()) {
             const QJsonObject tab = value.toObject();
             state.currentTabs[it.key()].append(
                 {tab.value(kTab).toString(), tab.value(kIndex).toInt()});

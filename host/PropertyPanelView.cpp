@@ -177,10 +177,9 @@ void PropertyPanelView::updateUI()
 
 void PropertyPanelView::updateProperty(Property *property)
 {
-    if (!m_panel)
-        return;
     const QPointer<ViewPanel> panel = m_panel;
-    panel->updateProperty(property);
+    if (panel)
+        panel->updateProperty(property);
     if (!panel || panel != m_panel)
         return;
     m_help->update(property);

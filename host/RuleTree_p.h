@@ -89,7 +89,7 @@ public:
 
 private:
     RuleValue valueOf(int index, const Reader &reader) const;
-    bool isAmong(const RuleNode &node, const Reader &reader) const;
+    bool isAmong(const RuleNode &self, const Reader &reader) const;
     bool isTrue(int index, const Reader &reader) const;
 
     std::vector<RuleNode> m_nodes;

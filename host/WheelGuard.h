@@ -43,7 +43,7 @@ private:
     struct Control
     {
         QPointer<QWidget> widget;
-        Qt::FocusPolicy focusPolicy; // its own
+        Qt::FocusPolicy focusPolicy = Qt::NoFocus; // its own
     };
 
     void watchControl(QWidget *control);

@@ -12,7 +12,7 @@ namespace {
 /// As the label takes it. Without a buddy its ampersands are not mnemonics but are shown.
 QString plainText(const QLabel &label)
 {
-    const QString text = label.buddy() ? withoutMnemonic(label.text()) : label.text();
+    QString text = label.buddy() ? withoutMnemonic(label.text()) : label.text();
     switch (label.textFormat()) {
     case Qt::PlainText:
         return text;

@@ -3,7 +3,7 @@
 #include "core/ColorWheel.h"
 #include "core/ColorWheelInterface_p.h"
 #include "core/LogSlider.h"
-#include "core/RealSliderInterface_p.h"
+#include "core/RealSliderInterface.h"
 #include "core/Slider.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 #include "property/ThousandthsSlider_p.h"
 
-#include "core/RealSliderInterface_p.h"
+#include "core/RealSliderInterface.h"
 #include "property/EditorHelpers_p.h"
 #include "property/SpokenNumber_p.h"
 

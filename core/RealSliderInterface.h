@@ -5,8 +5,9 @@
 
 namespace Tessark::UI {
 
-/// A slider to assistive technology: its value interface speaks in real units, not in positions. The
-/// slider has realValue(), realMinimum(), realMaximum(), realValueAt() and setRealValue().
+/// A slider to assistive technology, for a factory of QAccessible: its value interface speaks in real
+/// units, not in positions. Qt deletes it with the slider, which has realValue(), realMinimum(),
+/// realMaximum(), realValueAt() and setRealValue().
 template <typename RealSlider>
 class RealSliderInterface final : public QAccessibleWidget, public QAccessibleValueInterface
 {

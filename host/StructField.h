@@ -82,8 +82,9 @@ struct StructField<
     static QVariant toVariant(Value value) { return static_cast<int>(value); }
     static Value fromVariant(const QVariant &value)
     {
-        constexpr auto kLowest = static_cast<int>(std::numeric_limits<Value>::min());
-        constexpr auto kHighest = static_cast<int>(std::numeric_limits<Value>::max());
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a signed char is a small number here
+        constexpr int kLowest = std::numeric_limits<Value>::min();
+        constexpr int kHighest = std::numeric_limits<Value>::max();
         return static_cast<Value>(std::clamp(value.toInt(), kLowest, kHighest));
     }
 };

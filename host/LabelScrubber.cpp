@@ -1,7 +1,7 @@
 #include "host/LabelScrubber.h"
 
 #include "host/NumberFieldAccess_p.h"
-#include "host/RowLabels_p.h"
+#include "host/PanelRows_p.h"
 #include "host/ScrubRun_p.h"
 
 #include <property/Property.h>
@@ -38,15 +38,17 @@ LabelScrubber::LabelScrubber(PropertyEditorPanel *panel, QObject *parent)
     : QObject(parent)
     , m_panel(panel)
 {
-    const auto labels = rowLabels(*panel);
-    for (auto at = labels.cbegin(); at != labels.cend(); ++at) {
-        PropertyEditor *const editor = at.key();
-        const auto fields = numberFieldsIn(editor->widget(nullptr));
-        if (!isNumberRow(*editor->editedProperty()) || fields.size() != 1)
+    const PanelRows rows(*panel);
+    for (const PanelRow &row : rows.all()) {
+        QLabel *const label = row.label;
+        if (!label || !isNumberRow(*row.property))
             continue;
-        m_rows.insert(at.value(), {at.value(), editor, fields.first()});
-        at.value()->installEventFilter(this);
-        showCursor(at.value());
+        const auto fields = numberFieldsIn(row.field);
+        if (fields.size() != 1)
+            continue;
+        m_rows.insert(label, {label, row.editor, fields.first()});
+        label->installEventFilter(this);
+        showCursor(label);
     }
 }
 

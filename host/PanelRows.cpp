@@ -4,8 +4,6 @@
 #include <property/PropertyEditorPanel.h>
 #include <property/PropertyLayout.h>
 
-#include <QLabel>
-
 namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
@@ -43,6 +41,7 @@ PanelRows::PanelRows(PropertyEditorPanel &panel)
         row.field = field;
         row.property = editor->editedProperty();
         m_indexOf.insert(field, count());
+        m_indexesOf.insert(row.property, count());
         m_rows.push_back(row);
         QWidget *const page = field->parentWidget();
         if (page && qobject_cast<PropertyLayout *>(page->layout()) && !m_pages.contains(page))
@@ -76,12 +75,8 @@ int PanelRows::indexAround(const QWidget *widget) const
 
 QVector<int> PanelRows::indexesOf(const Property *property) const
 {
-    QVector<int> indexes;
-    for (int row = 0; row < count(); ++row) {
-        if (at(row).property == property)
-            indexes.append(row);
-    }
-    return indexes;
+    const QList<int> indexes = m_indexesOf.values(property); // the latest first
+    return {indexes.crbegin(), indexes.crend()};
 }
 
 QVector<QWidget *> PanelRows::pages() const
@@ -109,11 +104,12 @@ void PanelRows::walk(const QLayout &layout)
             row.group = groups.isEmpty() ? -1 : groups.last();
             if (row.group >= 0)
                 m_rows[static_cast<std::size_t>(row.group)].members.append(index);
-            const bool hasLabel =
-                !row.editor->hint(kPropertyHintFullWidth).toBool() && !m_indexOf.contains(before);
-            if (hasLabel && qobject_cast<const QLabel *>(before)) {
-                row.label = before;
-                m_indexOf.insert(before, index);
+            auto *const label = qobject_cast<QLabel *>(before);
+            // The field of the row before may be a label too.
+            if (label && !m_indexOf.contains(label)
+                && !row.editor->hint(kPropertyHintFullWidth).toBool()) {
+                row.label = label;
+                m_indexOf.insert(label, index);
             }
             if (widget->property("beginGroup").toBool())
                 groups.append(index);

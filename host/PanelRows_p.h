@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QHash>
+#include <QLabel>
+#include <QMultiHash>
 #include <QPointer>
 #include <QTabWidget>
 #include <QVector>
@@ -22,7 +24,7 @@ struct PanelRow
 {
     QPointer<PropertyUI::PropertyEditor> editor;
     QPointer<QWidget> field;
-    QPointer<QWidget> label;   // none for a row over both columns
+    QPointer<QLabel> label;    // none for a row over both columns
     QPointer<QTabWidget> tabs; // of a tab's row: where its page is
     PropertyUI::Property *property = nullptr;
     int group = -1;       // row of the group that it lies in, on the same page
@@ -60,6 +62,7 @@ private:
 
     std::vector<PanelRow> m_rows;
     QHash<const QObject *, int> m_indexOf; // by field and by label
+    QMultiHash<const PropertyUI::Property *, int> m_indexesOf;
     QVector<QPointer<QWidget>> m_pages;
 };
 

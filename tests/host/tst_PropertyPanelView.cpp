@@ -7,7 +7,7 @@
 #include <property/PropertyLayout.h>
 #include <property/PropertyUI.h>
 
-#include <support/FixedHintWidget.h>
+#include <support/HintCountingEditor.h>
 #include <support/RecordingDelegate.h>
 #include <support/Wheel.h>
 
@@ -33,6 +33,7 @@
 
 using namespace Tessark::PropertyHost;
 using namespace Tessark::PropertyUI;
+using Tessark::Testing::HintCountingEditor;
 
 namespace {
 
@@ -48,40 +49,6 @@ QString numbered(const char *text, int number)
 {
     return name(text) + QString::number(number);
 }
-
-int s_hintCalls = 0;
-
-class CountingWidget final : public Tessark::Testing::FixedHintWidget
-{
-public:
-    CountingWidget()
-        : FixedHintWidget(QSize(80, 20))
-    {
-    }
-
-    QSize sizeHint() const override
-    {
-        ++s_hintCalls;
-        return FixedHintWidget::sizeHint();
-    }
-};
-
-class CountingEditor final : public PropertyEditor
-{
-public:
-    static PropertyEditor *Factory(Property *property) { return new CountingEditor(property); }
-
-    using PropertyEditor::PropertyEditor;
-
-    void setValue(const QVariant &) override {}
-    QVariant value() const override { return {}; }
-    QWidget *widget(PropertyEditorContext *) override
-    {
-        if (!m_widget)
-            m_widget = new CountingWidget;
-        return m_widget;
-    }
-};
 
 /// Counts the events of a type that reach anything in the program.
 class EventCount final : public QObject
@@ -252,7 +219,8 @@ private:
 void tst_PropertyPanelView::init()
 {
     QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight()); // over no row
-    PropertyEditorRegistry::Instance()->registerPropertyEditor(kCounted, CountingEditor::Factory);
+    PropertyEditorRegistry::Instance()->registerPropertyEditor(kCounted,
+                                                               HintCountingEditor::Factory);
     m_list = std::make_unique<PropertyList>();
     m_store = std::make_unique<PropertyStore>();
     m_view = std::make_unique<PropertyPanelView>();
@@ -774,23 +742,24 @@ void tst_PropertyPanelView::openingCostsAboutAsMuchAsInThePanel()
 
     EventCount shown(QEvent::ShowToParent);
     EventCount moved(QEvent::Move);
-    s_hintCalls = 0;
+    HintCountingEditor::s_hintCalls = 0;
     click(name("G"));
     settle();
 
     QVERIFY(shown.count >= 2 * kRows); // labels and fields
     QVERIFY2(shown.count <= 2 * kRows + 2, qPrintable(QString::number(shown.count)));
-    QVERIFY2(s_hintCalls <= 6 * kRows, qPrintable(QString::number(s_hintCalls)));
+    QVERIFY2(HintCountingEditor::s_hintCalls <= 6 * kRows,
+             qPrintable(QString::number(HintCountingEditor::s_hintCalls)));
     QVERIFY2(moved.count <= 2 * kRows + 20, qPrintable(QString::number(moved.count)));
 
     EventCount hidden(QEvent::HideToParent);
-    s_hintCalls = 0;
+    HintCountingEditor::s_hintCalls = 0;
     click(name("G"));
     settle();
 
     QVERIFY(hidden.count >= 2 * kRows);
     QVERIFY2(hidden.count <= 2 * kRows + 2, qPrintable(QString::number(hidden.count)));
-    QCOMPARE(s_hintCalls, 0);
+    QCOMPARE(HintCountingEditor::s_hintCalls, 0);
 }
 
 void tst_PropertyPanelView::manyRowsComeAtOnce()
@@ -804,12 +773,13 @@ void tst_PropertyPanelView::manyRowsComeAtOnce()
     QVERIFY(!isShown(name("r0")));
 
     EventCount requests(QEvent::LayoutRequest);
-    s_hintCalls = 0;
+    HintCountingEditor::s_hintCalls = 0;
     click(name("on"));
     QVERIFY(isShown(numbered("r", kRows - 1)));
     settle();
 
-    QVERIFY2(s_hintCalls <= 6 * kRows, qPrintable(QString::number(s_hintCalls)));
+    QVERIFY2(HintCountingEditor::s_hintCalls <= 6 * kRows,
+             qPrintable(QString::number(HintCountingEditor::s_hintCalls)));
     QVERIFY2(requests.count <= 20, qPrintable(QString::number(requests.count)));
     QVERIFY(field(name("last"))->y() > kRows * 20);
     QCOMPARE(field(name("last"))->geometry().bottom(), m_view->panel()->height() - 1 - 4);
@@ -1331,7 +1301,7 @@ void tst_PropertyPanelView::ownToolTipIsKept()
     public:
         static PropertyEditor *Factory(Property *property)
         {
-            PropertyEditor *const editor = CountingEditor::Factory(property);
+            PropertyEditor *const editor = HintCountingEditor::Factory(property);
             editor->widget(nullptr)->setToolTip(name("its own"));
             return editor;
         }

@@ -1,6 +1,6 @@
 #include "benchmarks/panel/PanelSubject.h"
 #include "support/AllocationCount.h"
-#include "support/FixedHintWidget.h"
+#include "support/HintCountingEditor.h"
 
 #include <property/PropertyEditorRegistry.h>
 
@@ -14,6 +14,7 @@
 #include <vector>
 
 using namespace Tessark::PropertyUI;
+using Tessark::Testing::HintCountingEditor;
 
 namespace {
 
@@ -86,46 +87,12 @@ Costs costsOf(const PanelSubject &subject, const std::function<void()> &operatio
     return costs;
 }
 
-int s_hintCalls = 0;
-
-class CountingWidget final : public Tessark::Testing::FixedHintWidget
-{
-public:
-    CountingWidget()
-        : FixedHintWidget(QSize(80, 20))
-    {
-    }
-
-    QSize sizeHint() const override
-    {
-        ++s_hintCalls;
-        return FixedHintWidget::sizeHint();
-    }
-};
-
-class CountingEditor final : public PropertyEditor
-{
-public:
-    static PropertyEditor *Factory(Property *property) { return new CountingEditor(property); }
-
-    using PropertyEditor::PropertyEditor;
-
-    void setValue(const QVariant &) override {}
-    QVariant value() const override { return {}; }
-    QWidget *widget(PropertyEditorContext *) override
-    {
-        if (!m_widget)
-            m_widget = new CountingWidget;
-        return m_widget;
-    }
-};
-
 int hintCallsOf(const std::function<void()> &operation)
 {
-    s_hintCalls = 0;
+    HintCountingEditor::s_hintCalls = 0;
     operation();
     settle();
-    return s_hintCalls;
+    return HintCountingEditor::s_hintCalls;
 }
 
 } // namespace
@@ -258,7 +225,7 @@ void tst_PanelCosts::building()
 void tst_PanelCosts::sizeHints()
 {
     const QString type = QStringLiteral("counting");
-    PropertyEditorRegistry::Instance()->registerPropertyEditor(type, CountingEditor::Factory);
+    PropertyEditorRegistry::Instance()->registerPropertyEditor(type, HintCountingEditor::Factory);
     for (const int rows : {kSmall, kLarge}) {
         std::vector<Property> properties;
         properties.emplace_back(QStringLiteral("begin"), QStringLiteral("Group"),

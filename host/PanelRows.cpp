@@ -96,7 +96,7 @@ void PanelRows::walk(const QLayout &layout)
     QWidget *before = nullptr;
     for (int i = 0; i < layout.count(); ++i) {
         QWidget *const widget = layout.itemAt(i)->widget();
-        const int index = m_indexOf.value(widget, -1);
+        const int index = widget ? m_indexOf.value(widget, -1) : -1;
         if (widget && widget->property("endGroup").toBool() && !groups.isEmpty())
             groups.removeLast();
         if (index >= 0) {

@@ -9,19 +9,20 @@ discard_moved_build() {
     grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache" || rm -rf "$1"
 }
 
-# build_preset PRESET, from the root of the tree.
+# build_preset PRESET [OPTION-OF-THE-BUILD...], from the root of the tree.
 build_preset() {
     local preset=$1
+    shift
     discard_moved_build "$root/build/$preset"
     echo "== $preset: build"
     cmake --preset "$preset" >/dev/null
-    cmake --build --preset "$preset" -j "$(nproc)"
+    cmake --build --preset "$preset" -j "$(nproc)" "$@"
 }
 
-# build_and_test PRESET, from the root of the tree. The last lines are ctest's.
-build_and_test() {
+# test_preset PRESET [OPTION-OF-CTEST...], from the root of the tree. The last lines are ctest's.
+test_preset() {
     local preset=$1
-    build_preset "$preset"
+    shift
     echo "== $preset: test"
-    ctest --test-dir "build/$preset" --no-tests=error --output-on-failure -j "$(nproc)"
+    ctest --test-dir "build/$preset" --no-tests=error --output-on-failure -j "$(nproc)" "$@"
 }

@@ -12,3 +12,13 @@ if(TESSARK_BUILD_TESTS)
 endif()
 find_package(Qt${TESSARK_QT_MAJOR} ${TESSARK_QT_MINIMUM} REQUIRED
     COMPONENTS ${tessark_qt_components})
+
+# What needs Qt Test without being a test of ours is built where it is there.
+if(TESSARK_BUILD_TESTING_LIBRARY)
+    find_package(Qt${TESSARK_QT_MAJOR} ${TESSARK_QT_MINIMUM} QUIET OPTIONAL_COMPONENTS Test)
+endif()
+if(TESSARK_BUILD_TESTING_LIBRARY AND TARGET Qt${TESSARK_QT_MAJOR}::Test)
+    set(TESSARK_HAS_TESTING_LIBRARY TRUE)
+else()
+    set(TESSARK_HAS_TESTING_LIBRARY FALSE)
+endif()

@@ -19,6 +19,7 @@
 #include <QAbstractSpinBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QSlider>
 #include <QTabBar>
 
@@ -95,6 +96,10 @@ bool isFocused(const QWidget *field)
 /// Which key goes on to the next number or choice.
 int keyFor(const QWidget *control, int steps)
 {
+    if (qobject_cast<const QRadioButton *>(control)) {
+        const bool isLeftToRight = control->layoutDirection() == Qt::LeftToRight;
+        return isLeftToRight == (steps > 0) ? Qt::Key_Right : Qt::Key_Left;
+    }
     const bool isNumber = qobject_cast<const QAbstractSpinBox *>(control)
                           || qobject_cast<const QAbstractSlider *>(control);
     return isNumber == (steps > 0) ? Qt::Key_Up : Qt::Key_Down; // lists are read downwards
@@ -175,13 +180,9 @@ bool PanelDriver::wheel(const QString &row, int notches)
 
 bool PanelDriver::choose(const QString &row, const QString &text)
 {
-    DriverTarget target;
-    QString problem = takeRow(row, &target);
-    if (problem.isEmpty())
-        problem = PropertyTest::choose(target.row.field, text);
-    if (problem.isEmpty())
-        problem = lost(target);
-    return finish("choose in", row, problem);
+    return finish("choose in", row, inRow(row, [&text](QWidget *field) {
+                      return PropertyTest::choose(field, text);
+                  }));
 }
 
 bool PanelDriver::check(const QString &row, bool checked)
@@ -196,13 +197,9 @@ bool PanelDriver::press(const QString &row)
 
 bool PanelDriver::setToDefault(const QString &row)
 {
-    DriverTarget target;
-    QString problem = takeRow(row, &target);
-    if (problem.isEmpty())
-        problem = pickFromMenu(target.row.field, PropertyEditorPanel::tr("Set to Default"));
-    if (problem.isEmpty())
-        problem = lost(target);
-    return finish("default", row, problem);
+    return finish("default", row, inRow(row, [](QWidget *field) {
+                      return pickFromMenu(field, PropertyEditorPanel::tr("Set to Default"));
+                  }));
 }
 
 bool PanelDriver::open(const QString &group)
@@ -376,6 +373,18 @@ QString PanelDriver::takeMarker(const QString &type, const QString &title,
     return reveal([&] { return findMarker(type, title, target); }, target);
 }
 
+/// Does something in the field of a row.
+QString PanelDriver::inRow(const QString &name, const std::function<QString(QWidget *)> &act) const
+{
+    DriverTarget target;
+    const QString problem = takeRow(name, &target);
+    if (!problem.isEmpty())
+        return problem;
+    const QString failure = act(target.row.field);
+    const QString loss = lost(target);
+    return loss.isEmpty() ? failure : loss;
+}
+
 /// What has gone by what the user did.
 QString PanelDriver::lost(const DriverTarget &target) const
 {
@@ -412,7 +421,7 @@ QString PanelDriver::dragTo(const QString &name, double number, Reach reachOf) c
     }
     const int pixels = track.pixelsTo(int(std::lround(wanted)));
     const int position = track.positionAfter(pixels);
-    if (reachOf == Reach::Exact && !isSame(part->numberAt(position), number)) {
+    if (reachOf == Reach::Exact && !part->isShownAs(position, number)) {
         return QStringLiteral("No pixel of its slider means %1; the nearest is %2")
             .arg(valueText(number), valueText(part->numberAt(position)));
     }

@@ -8,6 +8,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <functional>
+
 namespace Tessark::PropertyUI {
 class PropertyEditorPanel;
 } // namespace Tessark::PropertyUI
@@ -151,6 +153,7 @@ private:
     QString reveal(Find find, DriverTarget *target) const;
     QString takeRow(const QString &name, DriverTarget *target) const;
     QString takeMarker(const QString &type, const QString &title, DriverTarget *target) const;
+    QString inRow(const QString &name, const std::function<QString(QWidget *)> &act) const;
     QString lost(const DriverTarget &target) const;
     QString dragTo(const QString &name, double number, Reach reach) const;
     QString moveHandle(const DriverTarget &target, const NumberPart &part, int position) const;

@@ -23,6 +23,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Tessark::PropertyTest {
 
@@ -32,6 +33,7 @@ namespace {
 
 constexpr double kThousandths = 1000;
 constexpr double kPercentUnits = 100000;
+constexpr double kTie = 1 + 1e-6; // half a digit, with the rounding of doubles
 
 const QString kExpanded = QStringLiteral("expanded");
 const QString kConstrain = QStringLiteral("constrain");
@@ -182,6 +184,20 @@ double NumberPart::numberAt(int position) const
     return position / unitsPerNumber;
 }
 
+bool NumberPart::isShownAs(int position, double number) const
+{
+    const double reached = numberAt(position);
+    const auto *const box = qobject_cast<QDoubleSpinBox *>(field);
+    if (!box)
+        return isSame(reached, number);
+    // Up to half of the last digit that the field shows, in units of the value.
+    double shownPerNumber = std::max(1.0, unitsPerNumber / kThousandths);
+    if (qobject_cast<UI::Slider *>(slider))
+        shownPerNumber = box->maximum(); // of a channel: 1 or 255
+    const double half = 0.5 * std::pow(10.0, -box->decimals()) / shownPerNumber;
+    return std::fabs(reached - number) <= half * kTie;
+}
+
 RowParts::RowParts(const PanelRow &row)
     : m_row(row)
 {
@@ -260,13 +276,13 @@ QVariant RowParts::value(const QString &name) const
         return m_row.editor->value();
     if (const auto *const box = qobject_cast<QAbstractButton *>(named(name)))
         return box->isChecked();
-    const NumberPart *const part = number(name);
-    if (!part)
-        return QVariant();
     const bool isColor =
         m_row.type == kPropertyTypeColor; // its fields follow the host's answer only
     if (isColor && name == kAlpha)
         return numbersOf(m_row.editor->value()).value(3);
+    const NumberPart *const part = number(name);
+    if (!part)
+        return QVariant();
     if (!isColor && part->field)
         return fieldNumber(part->field);
     return numbersOf(m_row.editor->value()).value(int(part - m_numbers.constData()));

@@ -27,6 +27,9 @@ struct NumberPart
 
     /// The number of the value that a position of the slider stands for.
     double numberAt(int position) const;
+
+    /// Whether the row shows number where the slider stands at position.
+    bool isShownAs(int position, double number) const;
 };
 
 /// What the row has for the user, under the names that come after the dot; an empty name where there

@@ -100,7 +100,7 @@ void tst_DriverScript::playsEveryKindOfLine()
         forget edits
 
         type "A \"new\" day" in title
-        expect title = A "new" day
+        expect title = "A \"new\" day"
         expect text of title = "A \"new\" day"
         type Du in title without return
         expect edits of title = "A \"new\" day"
@@ -177,8 +177,7 @@ void tst_DriverScript::tellsWhatIsWrong_data()
                             << "word 2: expected the name of a row, found the end of the line";
     QTest::newRow("wrong word")
         << "drag gain at 1"
-        << "word 3: expected another word, found \"at\" (did you mean \"to\"? "
-           "there are to, near)";
+        << "word 3: expected another word, found \"at\" (there are to, near)";
     QTest::newRow("one word") << "step gain to 1"
                               << "word 3: expected \"by\", found \"to\"";
     QTest::newRow("no number") << "drag gain to high"

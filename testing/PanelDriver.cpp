@@ -44,7 +44,10 @@ namespace {
 
 QString noRow(const QString &name, const QStringList &rows)
 {
-    return QStringLiteral("There is no such row") + possibilities(name, rows);
+    // Either the name has a dot, or what stands behind the dot is a part.
+    const QString stem = name.left(name.lastIndexOf(QLatin1Char('.')));
+    const bool isWhole = stem.isEmpty() || !nearest(name, rows).isEmpty();
+    return QStringLiteral("There is no such row") + possibilities(isWhole ? name : stem, rows);
 }
 
 QString noPart(const DriverTarget &target, const QString &kind)

@@ -133,7 +133,8 @@ public:
     /// Whether the group with this label, or name, is open; false, with an error, without one.
     bool isOpen(const QString &group);
 
-    /// Does one line of a script. Blank lines and those that begin with "#" do nothing.
+    /// Does one line of a script; docs/testing.md tells its language. Blank lines and those that begin
+    /// with "#" do nothing.
     bool perform(const QString &line);
 
     /// Does the lines of a script, up to the first that fails; error() begins with its number.

@@ -118,6 +118,8 @@ void ScriptLine::split(const QString &line)
             ++i;
             continue;
         }
+        if (line.mid(i, 2) == QLatin1String("# "))
+            return;
         Word word{QString(), line.at(i) == QLatin1Char('"')};
         i += word.isQuoted ? 1 : 0;
         const auto isEnd = [&](QChar c) {

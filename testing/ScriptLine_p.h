@@ -6,7 +6,7 @@
 
 namespace Tessark::PropertyTest {
 
-/// The words of a line, read one after the other. The first word that is not as expected is noted, and
+/// The words of a line up to a "#" before a blank, read one after the other. The first word that is not as expected is noted, and
 /// everything after it reads as empty.
 class ScriptLine
 {

@@ -26,6 +26,13 @@ int slipsBetween(const QString &word, const QString &other)
     return line.back();
 }
 
+} // namespace
+
+QString quoted(const QString &text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
 QString nearest(const QString &word, const QStringList &words)
 {
     const auto slips = [&word](const QString &other) { return slipsBetween(word, other); };
@@ -35,13 +42,6 @@ QString nearest(const QString &word, const QStringList &words)
     const bool isNear = found != words.end() && slips(*found) <= kMostSlips
                         && slips(*found) < std::max(2, int(word.size()));
     return isNear ? *found : QString();
-}
-
-} // namespace
-
-QString quoted(const QString &text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
 QString possibilities(const QString &word, const QStringList &words)

@@ -114,7 +114,7 @@ void tst_DriverScript::playsEveryKindOfLine()
         set gain to default
         expect gain = 0.5
 
-        check limited
+        check limited # and not before
         expect limited = true
         uncheck limited
         choose "Very good" in mode
@@ -136,7 +136,7 @@ void tst_DriverScript::playsEveryKindOfLine()
         expect size.width enabled
 
         show tab Look
-        expect tint = red
+        expect tint = #ff0000
         expect offset hidden
         expect tint visible
         type 7 in offset.y
@@ -192,7 +192,7 @@ void tst_DriverScript::tellsWhatIsWrong_data()
                                  << "word 1: expected another word, found \"check\"";
     QTest::newRow("unknown row")
         << "type 3 in siez.height"
-        << "type in \"siez.height\": There is no such row (there are gain, ";
+        << "type in \"siez.height\": There is no such row (did you mean \"size\"? there are gain, ";
     QTest::newRow("near row") << "check limted"
                               << "(did you mean \"limited\"? there are gain, title";
     QTest::newRow("unknown part") << "type 3 in size.heigt"

@@ -23,15 +23,24 @@ QString noChoice(const QString &text, const QStringList &choices)
         .arg(quoted(text), possibilities(text, choices));
 }
 
-/// A movement with the pointer, without which a click right after the one that opened the list counts
-/// as its release.
-void clickInPopup(const QWidget *viewport, const QPoint &at)
+/// Moves the pointer to the entry first: without a movement, a click right after the one that opened
+/// the list counts as its release. The list may scroll under the pointer.
+void clickInPopup(QAbstractItemView *view, const QModelIndex &entry)
 {
     constexpr int kFar = 30; // pixels
+    constexpr int kMostMoves = 5;
+    const QPointer<QWidget> viewport(view->viewport());
+    view->scrollTo(entry, QAbstractItemView::PositionAtCenter);
+    QPoint at = view->visualRect(entry).center();
     Pointer pointer(viewport, at);
-    const QPoint place = pointer.position();
-    pointer.moveTo(place + QPoint(kFar, 0));
-    pointer.moveTo(place);
+    pointer.moveTo(pointer.position() + QPoint(kFar, 0));
+    for (int i = 0; i < kMostMoves; ++i) {
+        pointer.moveTo(viewport->mapTo(viewport->window(), at));
+        settle();
+        if (!viewport || view->visualRect(entry).center() == at)
+            break;
+        at = view->visualRect(entry).center();
+    }
     pointer.press();
     pointer.release();
 }
@@ -54,8 +63,7 @@ QString chooseInBox(QComboBox *comboBox, const QString &text)
         return box ? QStringLiteral("Its list does not open") : kDeleted;
     QAbstractItemView *const view = box->view();
     const QModelIndex entry = box->model()->index(index, box->modelColumn(), box->rootModelIndex());
-    view->scrollTo(entry);
-    clickInPopup(view->viewport(), view->visualRect(entry).center());
+    clickInPopup(view, entry);
     if (!box)
         return kDeleted;
     if (box->view()->isVisible())

@@ -1,8 +1,13 @@
 #include "testing/SliderTrack_p.h"
 
+#include <core/Slider.h>
+
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Tessark::PropertyTest {
 
@@ -40,6 +45,8 @@ SliderTrack::SliderTrack(const QSlider &slider)
     : m_orientation(slider.orientation())
     , m_minimum(slider.minimum())
     , m_maximum(slider.maximum())
+    , m_position(slider.sliderPosition())
+    , m_isSmooth(qobject_cast<const UI::Slider *>(&slider))
 {
     const QStyleOptionSlider option = styleOption(slider);
     const auto rectOf = [&](QStyle::SubControl part) {
@@ -56,12 +63,18 @@ SliderTrack::SliderTrack(const QSlider &slider)
 
 int SliderTrack::pixelsTo(int position) const
 {
+    if (m_isSmooth)
+        return int(std::lround((double(position) - m_position) / positionsPerPixel()));
     return QStyle::sliderPositionFromValue(m_minimum, m_maximum, position, m_length, m_isUpsideDown)
            - m_current;
 }
 
 int SliderTrack::positionAfter(int pixels) const
 {
+    if (m_isSmooth) {
+        const double position = m_position + pixels * positionsPerPixel();
+        return std::clamp(int(std::lround(position)), m_minimum, m_maximum);
+    }
     return QStyle::sliderValueFromPosition(m_minimum, m_maximum, m_current + pixels, m_length,
                                            m_isUpsideDown);
 }
@@ -69,6 +82,12 @@ int SliderTrack::positionAfter(int pixels) const
 QPoint SliderTrack::handleAfter(int pixels) const
 {
     return m_handle + (m_orientation == Qt::Horizontal ? QPoint(pixels, 0) : QPoint(0, pixels));
+}
+
+double SliderTrack::positionsPerPixel() const
+{
+    const double positions = (double(m_maximum) - m_minimum) / m_length;
+    return m_isUpsideDown ? -positions : positions;
 }
 
 } // namespace Tessark::PropertyTest

@@ -13,7 +13,7 @@ public:
     explicit SliderTrack(const QSlider &slider);
 
     /// Whether there is a handle and a way for it.
-    bool isUsable() const { return m_length > 0; }
+    bool isUsable() const { return m_length > 0 && m_maximum > m_minimum; }
 
     /// The middle of the handle where it is now.
     QPoint handle() const { return m_handle; }
@@ -29,12 +29,16 @@ public:
     QPoint handleAfter(int pixels) const;
 
 private:
+    double positionsPerPixel() const;
+
     Qt::Orientation m_orientation;
     bool m_isUpsideDown;
     int m_minimum;
     int m_maximum;
-    int m_length;  // of the way, in pixels
-    int m_current; // where the handle is on it
+    int m_length;    // of the way, in pixels
+    int m_current;   // where the handle is on it
+    int m_position;  // of the slider
+    bool m_isSmooth; // it follows the pointer from where it is, not from the pixel of its handle
     QPoint m_handle;
 };
 

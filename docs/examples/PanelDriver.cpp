@@ -75,10 +75,11 @@ void SoundPanelTest::aScriptDoesTheSame()
         expect flags 0,1,1
         forget edits
 
+        check limited
+        expect edits of limited = true
         close Levels
         type 3 in size.height      # opens the group first
         expect size = 1 3
-        expect edits of size = 1 3
         set gain to default
         expect gain = 1
     )");

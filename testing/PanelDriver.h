@@ -6,19 +6,15 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
-#include <QWidget>
 
-#include <functional>
+#include <memory>
 
-namespace Tessark::PropertyUI {
-class PropertyEditorPanel;
-} // namespace Tessark::PropertyUI
+class QWidget;
 
 namespace Tessark::PropertyTest {
 
 class EditRecorder;
-struct DriverTarget;
-struct NumberPart;
+class PanelUser;
 
 /**
  * Plays the user of a property panel in a test: finds rows by the names of their properties and drives
@@ -61,12 +57,12 @@ public:
     /// Whether rows in closed groups and on other tabs are brought into view first, by clicks on group
     /// and tab as a user has to (true at first). Without it an action on a hidden row fails. Scroll
     /// areas show what is needed in both cases.
-    bool isRevealing() const { return m_isRevealing; }
+    bool isRevealing() const;
     void setRevealing(bool revealing);
 
     /// In how many movements a drag goes its way; 3 at first, at least 1. As a rule there is an edit
     /// for each.
-    int dragSteps() const { return m_dragSteps; }
+    int dragSteps() const;
     void setDragSteps(int steps);
 
     /// Where "expect flags" and "expect edits" of scripts look. Not owned; null at first.
@@ -143,34 +139,11 @@ public:
 private:
     Q_DISABLE_COPY(PanelDriver)
 
-    enum class Reach { Exact, Nearest };
-
     bool finish(const char *action, const QString &row, const QString &problem);
-    PropertyUI::PropertyEditorPanel *panel() const;
-    QString noPanel() const;
-    QString find(const QString &name, DriverTarget *target) const;
-    QString findMarker(const QString &type, const QString &title, DriverTarget *target) const;
-    template <typename Find>
-    QString reveal(Find find, DriverTarget *target) const;
-    QString takeRow(const QString &name, DriverTarget *target) const;
-    QString takeMarker(const QString &type, const QString &title, DriverTarget *target) const;
-    QString inRow(const QString &name, const std::function<QString(QWidget *)> &act) const;
-    QString lost(const DriverTarget &target) const;
-    QString dragTo(const QString &name, double number, Reach reach) const;
-    QString moveHandle(const DriverTarget &target, const NumberPart &part, int position) const;
-    QString typeInto(const QString &name, const QString &text, Ending ending) const;
-    QString stepBy(const QString &name, int steps) const;
-    QString turnWheelOver(const QString &name, int notches) const;
-    QString clickBox(const QString &name, bool checked) const;
-    QString clickButton(const QString &name) const;
-    QString fold(const QString &title, bool open) const;
-    QString turnTo(const QString &title) const;
 
-    QPointer<QWidget> m_widget;
-    QPointer<QObject> m_recorder;
+    std::unique_ptr<PanelUser> m_user; // who does it
+    QPointer<QObject> m_recorder;      // an EditRecorder
     QString m_error;
-    bool m_isRevealing = true;
-    int m_dragSteps = 3;
 };
 
 } // namespace Tessark::PropertyTest

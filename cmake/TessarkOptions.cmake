@@ -10,6 +10,8 @@ endif()
 option(TESSARK_BUILD_TESTS "Build the tests and the benchmarks" ${PROJECT_IS_TOP_LEVEL})
 option(TESSARK_BUILD_EXAMPLES "Build the examples" ${PROJECT_IS_TOP_LEVEL})
 option(TESSARK_BUILD_TOOLS "Build the property-panel program" ${PROJECT_IS_TOP_LEVEL})
+option(TESSARK_BUILD_TESTING_LIBRARY
+    "Build the library that hosts test their panels with, if Qt Test is there" ON)
 option(TESSARK_DEVELOPER "Treat warnings as errors" OFF)
 option(TESSARK_COVERAGE "Measure line coverage (GCC)" OFF)
 option(TESSARK_FUZZ "Build the fuzz targets for libFuzzer (clang)" OFF)

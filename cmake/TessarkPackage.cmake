@@ -38,6 +38,15 @@ function(tessark_install_package)
         NAMESPACE Tessark::
         DESTINATION ${TESSARK_CMAKE_INSTALL_DIR}
     )
+    if(TESSARK_HAS_TESTING_LIBRARY)
+        # Apart, since only hosts that ask for it need Qt Test.
+        install(EXPORT TessarkPropertyTestTargets
+            NAMESPACE Tessark::
+            DESTINATION ${TESSARK_CMAKE_INSTALL_DIR}
+        )
+        tessark_install_pkgconfig(PropertyTest OUTPUT_NAME propertytest
+            REQUIRES "tessark-property = ${PROJECT_VERSION}, Qt${TESSARK_QT_MAJOR}Test >= ${TESSARK_QT_MINIMUM}")
+    endif()
     tessark_install_pkgconfig(Core OUTPUT_NAME core
         REQUIRES "Qt${TESSARK_QT_MAJOR}Widgets >= ${TESSARK_QT_MINIMUM}")
     tessark_install_pkgconfig(Property OUTPUT_NAME property

@@ -61,11 +61,15 @@ function(tessark_hide_source_path target)
     endif()
 endfunction()
 
-# tessark_add_library(<Name> OUTPUT_NAME <file> FOLDER <folder> SOURCES ... [LINK ...])
+# tessark_add_library(<Name> OUTPUT_NAME <file> FOLDER <folder> [EXPORT <set>] SOURCES ... [LINK ...])
 # A versioned shared library, Tessark::<Name>, whose public headers lie in <folder>. Headers that
-# end in _p.h are ours alone and are not installed.
+# end in _p.h are ours alone and are not installed. It is exported with the others unless it names an
+# export set of its own.
 function(tessark_add_library name)
-    cmake_parse_arguments(arg "" "OUTPUT_NAME;FOLDER" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(arg "" "OUTPUT_NAME;FOLDER;EXPORT" "SOURCES;LINK" ${ARGN})
+    if(NOT arg_EXPORT)
+        set(arg_EXPORT TessarkTargets)
+    endif()
     set(target Tessark${name})
     add_library(${target} SHARED ${arg_SOURCES})
     add_library(Tessark::${name} ALIAS ${target})
@@ -88,7 +92,7 @@ function(tessark_add_library name)
     )
     target_link_libraries(${target} PUBLIC ${arg_LINK} Qt${TESSARK_QT_MAJOR}::Widgets)
 
-    install(TARGETS ${target} EXPORT TessarkTargets
+    install(TARGETS ${target} EXPORT ${arg_EXPORT}
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}

@@ -1,7 +1,6 @@
 #include <host/StructBinding.h>
 #include <property/PropertyUI.h>
-
-#include "support/SliderDrag.h"
+#include <testing/PanelDriver.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -9,7 +8,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QSlider>
 #include <QSpinBox>
 #include <QTest>
 
@@ -18,6 +16,7 @@
 
 using namespace Tessark::PropertyUI;
 using namespace Tessark::PropertyHost;
+using Tessark::PropertyTest::PanelDriver;
 
 namespace {
 
@@ -455,16 +454,14 @@ void tst_StructBinding::dragIsToldAsOneRun()
     panel.show();
     QSignalSpy changes(&list, &StructDelegate::valueChanged);
 
-    SliderDrag drag(panel.findChild<QSlider *>());
-    drag.press();
-    drag.moveBy(20);
-    drag.moveBy(20);
-    drag.release();
+    PanelDriver user(&panel);
+    user.setDragSteps(2);
+    QVERIFY2(user.dragNear(text("gain"), 5), qPrintable(user.error()));
 
     QCOMPARE(changes.size(), 2);
     QCOMPARE(changes.at(0).at(1).toBool(), false);
     QCOMPARE(changes.at(1).at(1).toBool(), true);
-    QCOMPARE(params.gain, control<QDoubleSpinBox>(panel, text("gain"))->value());
+    QCOMPARE(QVariant(params.gain), user.value(text("gain")));
 }
 
 void tst_StructBinding::hostChangesAreShownByARefresh()

@@ -4,16 +4,15 @@
 #include <host/PropertyStore.h>
 #include <host/UndoDelegate.h>
 #include <property/PropertyUI.h>
+#include <testing/PanelDriver.h>
 
 #include "support/HeapUse.h"
-#include "support/MenuProbe.h"
 #include "support/PropertySet.h"
 #include "support/RecordingDelegate.h"
 #include "support/SliderDrag.h"
 #include "support/Wheel.h"
 
 #include <QCheckBox>
-#include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -31,7 +30,7 @@ using Tessark::PropertyHost::CommitMode;
 using Tessark::PropertyHost::CommitPolicy;
 using Tessark::PropertyHost::PropertyStore;
 using Tessark::PropertyHost::UndoDelegate;
-using TestSupport::MenuProbe;
+using Tessark::PropertyTest::PanelDriver;
 using TestSupport::RecordingDelegate;
 
 namespace {
@@ -438,18 +437,13 @@ void tst_UndoInPanel::setToDefaultIsOneStep()
     QFETCH(bool, whileTyping);
     Subject subject;
     subject.show();
+    PanelDriver user(subject.panel.get());
     if (whileTyping)
-        subject.type(subject.countBox(), "2");
-    const MenuProbe probe([](QMenu *menu) {
-        QTest::keyClick(menu, Qt::Key_Down);
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
+        QVERIFY2(user.type(kCount, QStringLiteral("2"), PanelDriver::WithoutReturn),
+                 qPrintable(user.error()));
 
-    const QPoint place = subject.countBox()->parentWidget()->geometry().center();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, subject.panel->mapToGlobal(place));
-    QApplication::sendEvent(subject.panel.get(), &event);
+    QVERIFY2(user.setToDefault(kCount), qPrintable(user.error()));
 
-    QCOMPARE(probe.menus, 1);
     QCOMPARE(subject.stored(kCount), 5.0);
     QCOMPARE(subject.stack.count(), whileTyping ? 2 : 1);
     QCOMPARE(subject.stack.undoText(), QStringLiteral("Count"));

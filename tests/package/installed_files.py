@@ -12,7 +12,13 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
 from exported_symbols import OUR_SYMBOL, exported_symbols, our_symbols, output_of
 
-LIBRARIES = {"core": "core", "property": "property", "propertyhost": "host"}  # name to folder
+# Name to folder.
+LIBRARIES = {
+    "core": "core",
+    "property": "property",
+    "propertyhost": "host",
+    "propertytest": "testing",
+}
 
 # What the linker and the C run-time add to every shared library.
 LINKER_SYMBOLS = {"_init", "_fini", "_edata", "_end", "__bss_start"}

@@ -27,10 +27,11 @@ configure() {
         -DCMAKE_CXX_COMPILER_LAUNCHER="${LAUNCHER:-}" "$@"
 }
 
-# Runs the two host programs that a project has built.
+# Runs the host programs that a project has built.
 run_consumers() {
     "$1/consumer"
     "$1/list-consumer"
+    "$1/test-consumer"
 }
 
 # The package has to work wherever it ends up, so the place it was installed to is gone.
@@ -64,11 +65,12 @@ test_pkgconfig_consumer() {
     export PKG_CONFIG_PATH="$prefix/$LIBDIR/pkgconfig" LD_LIBRARY_PATH="$prefix/$LIBDIR"
     rm -rf "$build"
     mkdir -p "$build"
-    for module in tessark-core tessark-property tessark-propertyhost; do
+    for module in tessark-core tessark-property tessark-propertyhost tessark-propertytest; do
         [ "$(pkg-config --modversion "$module")" = "$VERSION" ] || fail "version of $module"
     done
     compile_with_pkgconfig tessark-property "$here/consumer/main.cpp" "$build/consumer"
     compile_with_pkgconfig tessark-propertyhost "$here/consumer/list.cpp" "$build/list-consumer"
+    compile_with_pkgconfig tessark-propertytest "$here/consumer/test.cpp" "$build/test-consumer"
     run_consumers "$build"
 }
 

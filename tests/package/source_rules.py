@@ -15,6 +15,7 @@ LAYERS = {
     "core": {"core"},
     "property": {"core", "property"},
     "host": {"core", "property", "host"},
+    "testing": {"core", "property", "testing"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*["<]([^">]+)[">]', re.MULTILINE)
 QUOTED_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)

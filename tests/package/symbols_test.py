@@ -34,7 +34,7 @@ class Symbols(unittest.TestCase):
             self.assertIn(text, result.stdout)
 
     def test_accepts_the_lists_it_has_written(self):
-        self.assertEqual(len(list(self.lists.iterdir())), 3)
+        self.assertEqual(len(list(self.lists.iterdir())), 4)
         self.assertEqual(self.run_symbols().returncode, 0)
 
     def test_names_what_is_new(self):

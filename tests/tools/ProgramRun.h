@@ -36,7 +36,7 @@ inline QProcessEnvironment withoutDisplay()
     return environment;
 }
 
-/// An environment in which a driver plays the steps; see PanelDriver.cpp.
+/// An environment in which a driver plays the steps; see PanelWindowDriver.cpp.
 inline QProcessEnvironment withDriver(const QStringList &steps)
 {
     QProcessEnvironment environment = withoutDisplay();

@@ -158,13 +158,13 @@ private:
 
 } // namespace
 
-class PanelDriverPlugin : public QGenericPlugin
+class PanelWindowDriverPlugin : public QGenericPlugin
 {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "PanelDriver.json")
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "PanelWindowDriver.json")
 
 public:
     QObject *create(const QString &, const QString &) override { return new Driver; }
 };
 
-#include "PanelDriver.moc"
+#include "PanelWindowDriver.moc"

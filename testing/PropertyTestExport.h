@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtGlobal>
+
+#if defined(TESSARK_BUILDING_PROPERTYTEST)
+#define TESSARK_PROPERTYTEST_EXPORT Q_DECL_EXPORT
+#else
+#define TESSARK_PROPERTYTEST_EXPORT Q_DECL_IMPORT
+#endif

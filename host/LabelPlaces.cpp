@@ -53,10 +53,11 @@ QRectF placeOf(const QTextLine &line, int character)
     return {std::min(leading, trailing), line.y(), std::abs(trailing - leading), line.height()};
 }
 
-void addPlaces(const QTextLayout &layout, const QPointF &origin, const QStringList &words,
-               QVector<QRectF> &places)
+/// The layout is that of the text, at the origin.
+void addPlaces(const QString &text, const QTextLayout &layout, const QPointF &origin,
+               const QStringList &words, QVector<QRectF> &places)
 {
-    const QVector<TextPart> parts = partsWithWords(layout.text(), words);
+    const QVector<TextPart> parts = partsWithWords(text, words);
     for (const TextPart &part : parts) {
         QRectF place;
         for (int at = part.begin; at < part.begin + part.length; ++at) {
@@ -86,7 +87,7 @@ QVector<QRectF> placesInPlainText(QString text, const QFont &font, const TextFra
     }
     layout.endLayout();
     QVector<QRectF> places;
-    addPlaces(layout, {frame.rect.left(), frame.top(height)}, words, places);
+    addPlaces(layout.text(), layout, {frame.rect.left(), frame.top(height)}, words, places);
     return places;
 }
 
@@ -100,7 +101,8 @@ QVector<QRectF> placesInDocument(QTextDocument &document, const QFont &font, con
     const QPointF origin(frame.rect.left(), frame.top(document.size().height()));
     QVector<QRectF> places;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        addPlaces(*block.layout(), origin + block.layout()->position(), words, places);
+        addPlaces(block.text(), *block.layout(), origin + block.layout()->position(), words,
+                  places);
     return places;
 }
 

@@ -30,8 +30,9 @@ void paint(QWidget &widget, const QVector<QRectF> &places)
 
 } // namespace
 
-SearchHighlight::SearchHighlight(std::shared_ptr<const PanelRows> rows)
+SearchHighlight::SearchHighlight(std::shared_ptr<const PanelRows> rows, QWidget *panel)
     : m_rows(std::move(rows))
+    , m_panel(panel)
     , m_isWatched(m_rows->all().size())
     , m_isMatch(m_rows->all().size())
 {
@@ -39,23 +40,21 @@ SearchHighlight::SearchHighlight(std::shared_ptr<const PanelRows> rows)
 
 SearchHighlight::~SearchHighlight()
 {
-    for (const int row : std::as_const(m_matches))
-        update(row);
+    update();
 }
 
 void SearchHighlight::show(const QStringList &words, const QVector<int> &rows)
 {
     const QVector<int> before = std::exchange(m_matches, rows);
     m_words = words;
-    for (const int row : before) {
+    for (const int row : before)
         m_isMatch[static_cast<std::size_t>(row)] = false;
-        update(row);
-    }
     for (const int row : rows) {
         m_isMatch[static_cast<std::size_t>(row)] = true;
         watch(row);
-        update(row);
     }
+    if (!before.isEmpty() || !rows.isEmpty())
+        update();
 }
 
 bool SearchHighlight::eventFilter(QObject *watched, QEvent *event)
@@ -85,13 +84,12 @@ void SearchHighlight::watch(int row)
         widgets.field->installEventFilter(this);
 }
 
-void SearchHighlight::update(int row) const
+/// All at once: of thousands of widgets, most of them out of view, Qt would compare each with all
+/// others.
+void SearchHighlight::update() const
 {
-    const PanelRow &widgets = m_rows->at(row);
-    if (widgets.label)
-        widgets.label->update();
-    if (widgets.field && qobject_cast<const QCheckBox *>(widgets.field))
-        widgets.field->update();
+    if (m_panel)
+        m_panel->update();
 }
 
 } // namespace Tessark::PropertyHost

@@ -15,7 +15,7 @@ namespace Tessark::PropertyHost {
 class SearchHighlight final : public QObject
 {
 public:
-    explicit SearchHighlight(std::shared_ptr<const PanelRows> rows);
+    SearchHighlight(std::shared_ptr<const PanelRows> rows, QWidget *panel);
     ~SearchHighlight() override;
 
     /// Words as of searchWords(), for these rows.
@@ -25,9 +25,10 @@ public:
 
 private:
     void watch(int row);
-    void update(int row) const;
+    void update() const;
 
     std::shared_ptr<const PanelRows> m_rows;
+    QPointer<QWidget> m_panel;
     QStringList m_words;
     std::vector<bool> m_isWatched; // by row
     std::vector<bool> m_isMatch;

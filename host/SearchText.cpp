@@ -32,7 +32,10 @@ QString foldedCharacter(const QString &character)
 {
     if (character.at(0).unicode() < kAsciiEnd)
         return character.toLower();
-    return withoutAccents(character.normalized(QString::NormalizationForm_KD)).toCaseFolded();
+    // Some letters are only told by their upper case that they are two.
+    return withoutAccents(character.normalized(QString::NormalizationForm_KD))
+        .toUpper()
+        .toCaseFolded();
 }
 
 /// A folded text that knows where its characters come from.

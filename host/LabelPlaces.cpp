@@ -23,7 +23,7 @@ constexpr int kIconGap = 4; // as styles draw check boxes
 struct TextFrame
 {
     QRectF rect;
-    Qt::Alignment alignment; // as it is seen
+    Qt::Alignment alignment;
     Qt::LayoutDirection direction = Qt::LeftToRight;
     bool wraps = false;
 
@@ -130,18 +130,22 @@ bool isPlain(const QLabel &label)
 
 } // namespace
 
+// A label reads its text in the text's direction, not in its own.
 QVector<QRectF> placesInLabel(const QLabel &label, const QStringList &words)
 {
     TextFrame frame;
-    frame.direction = label.layoutDirection();
-    frame.alignment = QStyle::visualAlignment(frame.direction, label.alignment());
-    frame.rect = textRect(label, frame.alignment);
     frame.wraps = label.wordWrap();
     if (isPlain(label)) {
         // Without a buddy its ampersands are not mnemonics but are shown.
         const QString text = label.buddy() ? shownWithoutMnemonic(label.text()) : label.text();
+        frame.direction = text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+        frame.alignment = QStyle::visualAlignment(frame.direction, label.alignment());
+        frame.rect = textRect(label, frame.alignment);
         return placesInPlainText(text, label.font(), frame, words);
     }
+    frame.direction = Qt::LayoutDirectionAuto; // the document finds it, and which side is meant
+    frame.alignment = label.alignment();
+    frame.rect = textRect(label, frame.alignment);
     QTextDocument document;
     if (label.textFormat() == Qt::MarkdownText)
         document.setMarkdown(label.text());

@@ -119,6 +119,8 @@ private Q_SLOTS:
     void textsAreReadAgain();
     void labelsAreHighlighted_data();
     void labelsAreHighlighted();
+    void highlightIsWhereTheWordIs_data();
+    void highlightIsWhereTheWordIs();
     void labelsKeepTheirTexts();
     void emptyViewIsSearched();
     void viewDeletedWhileSearching_data();
@@ -1131,6 +1133,55 @@ void tst_PanelSearch::labelsAreHighlighted()
     m_view->closeSearch();
     settle();
     QCOMPARE(changed(""), 0);
+}
+
+void tst_PanelSearch::highlightIsWhereTheWordIs_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<bool>("rightToLeft");
+
+    for (const bool rightToLeft : {false, true}) {
+        const QByteArray direction = rightToLeft ? ", right to left" : "";
+        QTest::newRow("plain" + direction) << name("target m") << rightToLeft;
+        QTest::newRow("rich" + direction) << name("<b>target</b> m") << rightToLeft;
+        QTest::newRow("two lines" + direction) << name("target\nm") << rightToLeft;
+    }
+}
+
+/// The word is the first of the label, which is read from the left whatever the panel is.
+void tst_PanelSearch::highlightIsWhereTheWordIs()
+{
+    QFETCH(QString, label);
+    QFETCH(bool, rightToLeft);
+    m_view->setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    m_list->string(name("r"), label);
+    m_list->string(name("s"), name("A much wider label"));
+    show();
+    m_view->openSearch();
+    m_view->setLabelWidth(200);
+    settle();
+    QWidget *const widget = this->label(label + QLatin1Char(':'));
+    const auto leftmost = [](const QImage &image, const QImage &background) {
+        for (int x = 0; x < image.width(); ++x) {
+            for (int y = 0; y < image.height(); ++y) {
+                if (image.pixel(x, y) != background.pixel(x, y))
+                    return x;
+            }
+        }
+        return -1;
+    };
+    const QImage before = widget->grab().toImage();
+    QImage empty = before;
+    empty.fill(before.pixelColor(0, 0));
+
+    m_view->setSearchText(name("target"));
+    settle();
+
+    const int ink = leftmost(before, empty);
+    const int highlight = leftmost(widget->grab().toImage(), before);
+    QVERIFY(ink >= 0);
+    QVERIFY2(highlight <= ink && highlight >= ink - 2,
+             qPrintable(QString::number(highlight - ink)));
 }
 
 void tst_PanelSearch::labelsKeepTheirTexts()

@@ -69,13 +69,13 @@ void ViewSearch::setEnabled(bool enabled)
 
 bool ViewSearch::isOpen() const
 {
-    return m_bar && !m_bar->isHidden();
+    return m_isOpen;
 }
 
 bool ViewSearch::hasFocus() const
 {
     const QWidget *const focused = m_view->window()->focusWidget();
-    return isOpen() && focused && m_bar->isAncestorOf(focused);
+    return m_bar && focused && m_bar->isAncestorOf(focused);
 }
 
 void ViewSearch::open()
@@ -88,26 +88,21 @@ void ViewSearch::close()
 {
     if (!isOpen())
         return;
+    m_isOpen = false; // other properties that come meanwhile are not searched
     const QPointer<ViewSearch> self(this);
     const QPointer<PanelSearch> search = m_search;
-    const int current =
+    const int walkedTo =
         search && search->current() >= 0 ? search->matches().at(search->current()) : -1;
-    const int top = topOf(current);
+    const int top = topOf(walkedTo);
     if (search)
         search->end();
+    if (self)
+        returnFocus(search ? walkedTo : -1);
     if (!self)
         return;
-    returnFocus(current);
-    if (!self)
-        return;
-    m_nextKey->setEnabled(false);
-    m_previousKey->setEnabled(false);
-    m_bar->hide();
-    m_bar->setText(QString());
-    m_bar->setOnlyChanged(false);
-    m_view->layout()->activate();
-    if (search == m_search && search)
-        restorePlace(current, top);
+    hide();
+    if (search)
+        restorePlace(walkedTo, top);
     delete search;
 }
 
@@ -194,9 +189,20 @@ void ViewSearch::show()
         m_search->origin().place = state.place;
         m_search->origin().focus = state.focus;
     }
+    m_isOpen = true;
     m_nextKey->setEnabled(true);
     m_previousKey->setEnabled(true);
     m_bar->show();
+}
+
+void ViewSearch::hide()
+{
+    m_nextKey->setEnabled(false);
+    m_previousKey->setEnabled(false);
+    m_bar->hide();
+    m_bar->setText(QString());
+    m_bar->setOnlyChanged(false);
+    m_view->layout()->activate();
 }
 
 /// What the bar tells, the user's keys among it, waits until Qt is done with them: the view may go.
@@ -219,6 +225,7 @@ void ViewSearch::begin()
     m_searchedText.clear();
     m_isSearchedForChanges = false;
     connect(m_search, &PanelSearch::matchesChanged, this, &ViewSearch::showMatches);
+    connect(m_search, &QObject::destroyed, this, &ViewSearch::showMatches);
     showMatches();
 }
 

@@ -70,6 +70,7 @@ public:
 
 private:
     void show();
+    void hide();
     void makeBar();
     void begin();
     void searchIn();
@@ -90,6 +91,7 @@ private:
     QPointer<PanelExtent> m_extent;
     QPointer<PanelSearch> m_search; // owned by the panel
     QPointer<QWidget> m_focusBefore;
+    bool m_isOpen = false;
     QString m_searchedText; // what m_search has been told last
     bool m_isSearchedForChanges = false;
 };

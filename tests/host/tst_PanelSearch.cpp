@@ -1215,7 +1215,9 @@ void tst_PanelSearch::emptyViewIsSearched()
     addRows("row", 2);
     show();
     QCOMPARE(shown(), QStringList{name("row1")});
+    QCOMPARE(count(), name("1 match"));
     m_view->clear();
+    QCOMPARE(count(), QString());
     m_view->closeSearch();
     QVERIFY(!searchField()->isVisible());
 }

@@ -1,5 +1,7 @@
 #include "host/PanelMemory_p.h"
 
+#include "host/SearchOrigin_p.h"
+
 #include <property/Property.h>
 #include <property/PropertyVocabulary.h>
 
@@ -28,9 +30,10 @@ QList<QWidget *> controlsOf(QWidget *field)
 
 } // namespace
 
-PanelMemory::PanelMemory(ViewPanel &panel, QScrollArea &area)
+PanelMemory::PanelMemory(ViewPanel &panel, QScrollArea &area, const SearchOrigin *origin)
     : m_panel(panel)
     , m_area(area)
+    , m_origin(origin)
     , m_rows(panel.rows())
 {
 }
@@ -38,18 +41,22 @@ PanelMemory::PanelMemory(ViewPanel &panel, QScrollArea &area)
 PanelState PanelMemory::state() const
 {
     PanelState state;
-    for (const PanelRow &row : m_rows->all()) {
+    for (int index = 0; index < m_rows->count(); ++index) {
+        const PanelRow &row = m_rows->at(index);
         if (GroupFolding::isGroup(row))
-            state.openGroups[calledBy(*row.property)].append(GroupFolding::isOpen(row));
+            state.openGroups[calledBy(*row.property)].append(isOpen(index));
         auto *const tabs = qobject_cast<QTabWidget *>(row.field);
         if (!tabs || row.property->type != kPropertyTypeBeginTabGroup)
             continue;
-        const int current = m_rows->indexOf(tabs->currentWidget());
+        const int current = currentTab(index, *tabs);
         const QString name = current < 0 ? QString() : calledBy(*m_rows->at(current).property);
-        state.currentTabs[calledBy(*row.property)].append({name, tabs->currentIndex()});
+        const int place = current < 0 ? -1 : tabs->indexOf(m_rows->at(current).field);
+        state.currentTabs[calledBy(*row.property)].append({name, place});
     }
-    state.place = place();
+    state.place = m_origin ? m_origin->place : place();
     state.focus = focus();
+    if (m_origin && !state.focus)
+        state.focus = m_origin->focus;
     return state;
 }
 
@@ -127,6 +134,16 @@ bool PanelMemory::isInView(int row) const
 int PanelMemory::topOf(int row) const
 {
     return m_rows->at(row).field->mapTo(&m_panel, QPoint()).y();
+}
+
+bool PanelMemory::isOpen(int group) const
+{
+    return m_origin ? m_origin->isOpen(group) : GroupFolding::isOpen(m_rows->at(group));
+}
+
+int PanelMemory::currentTab(int tabGroup, const QTabWidget &tabs) const
+{
+    return m_origin ? m_origin->currentTab(tabGroup) : m_rows->indexOf(tabs.currentWidget());
 }
 
 /// The row nearest to the upper edge of the view, the later one of two on the same level. Nothing

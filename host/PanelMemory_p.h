@@ -10,12 +10,15 @@ class QScrollArea;
 
 namespace Tessark::PropertyHost {
 
+class SearchOrigin;
+
 /// Reads what the user has arranged in the panel of a view, and arranges it so again. Silent.
 class PanelMemory
 {
 public:
-    /// Both must outlive this object.
-    PanelMemory(ViewPanel &panel, QScrollArea &area);
+    /// All must outlive this object. While the panel is searched, origin says what the user has
+    /// arranged; null otherwise.
+    PanelMemory(ViewPanel &panel, QScrollArea &area, const SearchOrigin *origin = nullptr);
 
     /// Without the width of the label column.
     PanelState state() const;
@@ -32,12 +35,15 @@ private:
     int find(const RowName &name) const;
     bool isInView(int row) const;
     int topOf(int row) const;
+    bool isOpen(int group) const;
+    int currentTab(int tabGroup, const QTabWidget &tabs) const;
     std::optional<PanelState::Place> place() const;
     std::optional<PanelState::Focus> focus() const;
     void restoreTab(const PanelRow &tabGroup, const PanelState::Tab &tab) const;
 
     ViewPanel &m_panel;
     QScrollArea &m_area;
+    const SearchOrigin *m_origin;
     std::shared_ptr<const PanelRows> m_rows;
 };
 

@@ -8,7 +8,9 @@
 #include "host/PropertyList.h"
 #include "host/RowHelp_p.h"
 #include "host/RuleEngine.h"
+#include "host/SearchOrigin_p.h"
 #include "host/ViewPanel_p.h"
+#include "host/ViewSearch_p.h"
 #include "host/WheelGuard.h"
 
 #include <QJsonDocument>
@@ -26,6 +28,7 @@ PropertyPanelView::PropertyPanelView(QWidget *parent)
     , m_area(new QScrollArea(this))
     , m_description(new DescriptionLine(this))
     , m_wheelGuard(new WheelGuard(this))
+    , m_search(new ViewSearch(this, m_area))
     , m_state(std::make_unique<PanelState>())
 {
     m_area->setFrameShape(QFrame::NoFrame);
@@ -52,6 +55,7 @@ void PropertyPanelView::setProperties(const QVector<Property *> &properties,
     const QPointer<PropertyPanelView> self(this);
     const int installation = ++m_installations;
     auto panel = std::make_unique<ViewPanel>(properties, delegate, context);
+    panel->setSource(delegate);
     if (self && m_installations == installation)
         install(std::move(panel), nullptr);
 }
@@ -63,6 +67,7 @@ void PropertyPanelView::setProperties(const PropertyList &list, IPropertyEditorD
     const int installation = ++m_installations;
     auto rules = std::make_unique<RuleEngine>(list, delegate);
     auto panel = std::make_unique<ViewPanel>(list.properties(), rules->delegate(), context);
+    panel->setSource(delegate);
     if (self && m_installations == installation)
         install(std::move(panel), std::move(rules));
 }
@@ -88,14 +93,18 @@ RuleEngine *PropertyPanelView::rules() const
 bool PropertyPanelView::isGroupOpen(const Property *group) const
 {
     const QVector<int> rows = m_panel ? m_panel->rows()->indexesOf(group) : QVector<int>();
-    return rows.isEmpty() || !GroupFolding::isGroup(m_panel->rows()->at(rows.first()))
-           || GroupFolding::isOpen(m_panel->rows()->at(rows.first()));
+    if (rows.isEmpty() || !GroupFolding::isGroup(m_panel->rows()->at(rows.first())))
+        return true;
+    const SearchOrigin *const origin = m_search->origin();
+    return origin ? origin->isOpen(rows.first())
+                  : GroupFolding::isOpen(m_panel->rows()->at(rows.first()));
 }
 
 void PropertyPanelView::setGroupOpen(const Property *group, bool open)
 {
     if (!m_panel)
         return;
+    const SearchBreak searchBreak(m_search);
     const QVector<int> rows = m_panel->rows()->indexesOf(group);
     for (const int row : rows) {
         if (GroupFolding::isGroup(m_panel->rows()->at(row)))
@@ -143,6 +152,36 @@ void PropertyPanelView::setDescriptionVisible(bool visible)
     m_description->setVisible(visible);
 }
 
+bool PropertyPanelView::isSearchEnabled() const
+{
+    return m_search->isEnabled();
+}
+
+void PropertyPanelView::setSearchEnabled(bool enabled)
+{
+    m_search->setEnabled(enabled);
+}
+
+QString PropertyPanelView::searchText() const
+{
+    return m_search->text();
+}
+
+void PropertyPanelView::setSearchText(const QString &text)
+{
+    m_search->setText(text);
+}
+
+bool PropertyPanelView::isOnlyChanged() const
+{
+    return m_search->isOnlyChanged();
+}
+
+void PropertyPanelView::setOnlyChanged(bool onlyChanged)
+{
+    m_search->setOnlyChanged(onlyChanged);
+}
+
 QByteArray PropertyPanelView::saveState() const
 {
     return QJsonDocument(currentState().toJson()).toJson(QJsonDocument::Compact);
@@ -159,20 +198,28 @@ bool PropertyPanelView::restoreState(const QByteArray &state)
         return true;
     const QPointer<ViewPanel> panel = m_panel;
     m_splitter->setLabelWidth(m_state->labelWidth);
-    PanelMemory(*panel, *m_area).restoreGroupsAndTabs(*m_state);
+    {
+        const SearchBreak searchBreak(m_search);
+        PanelMemory(*panel, *m_area).restoreGroupsAndTabs(*m_state);
+    }
     if (!panel)
         return true;
     restorePlace();
+    if (SearchOrigin *const origin = m_search->origin())
+        origin->place = m_state->place;
     const QWidget *const focused = window()->focusWidget();
-    if (m_state->focus && (!focused || isAncestorOf(focused)))
+    if (m_state->focus && !m_search->hasFocus() && (!focused || isAncestorOf(focused)))
         PanelMemory(*panel, *m_area).restoreFocus(*m_state->focus);
     return true;
 }
 
 void PropertyPanelView::updateUI()
 {
-    if (m_panel)
-        m_panel->updateUI();
+    const QPointer<ViewPanel> panel = m_panel;
+    if (panel)
+        panel->updateUI();
+    if (panel)
+        m_search->valuesChanged();
 }
 
 void PropertyPanelView::updateProperty(Property *property)
@@ -184,12 +231,14 @@ void PropertyPanelView::updateProperty(Property *property)
         return;
     m_help->update(property);
     m_description->showHelp();
+    m_search->update(property);
 }
 
 void PropertyPanelView::expandAll()
 {
     if (!m_panel)
         return;
+    const SearchBreak searchBreak(m_search);
     m_panel->folding().setAllOpen(true);
     m_panel->folding().update();
 }
@@ -198,8 +247,19 @@ void PropertyPanelView::collapseAll()
 {
     if (!m_panel)
         return;
+    const SearchBreak searchBreak(m_search);
     m_panel->folding().setAllOpen(false);
     m_panel->folding().update();
+}
+
+void PropertyPanelView::openSearch()
+{
+    m_search->open();
+}
+
+void PropertyPanelView::closeSearch()
+{
+    m_search->close();
 }
 
 void PropertyPanelView::showEvent(QShowEvent *event)
@@ -229,9 +289,12 @@ void PropertyPanelView::install(std::unique_ptr<ViewPanel> panel, std::unique_pt
     std::swap(m_rules, rules); // the old ones go with the old panel
     replacePanel(panel.release());
     restorePlace();
+    m_search->follow(m_panel, m_extent, *m_state);
+    if (!self || m_installations != installation || !m_panel)
+        return;
     // Where there was no panel, the focus may be elsewhere; otherwise it was in the old one.
     const QWidget *const focused = window()->focusWidget();
-    if (m_state->focus && (hadPanel || !focused || isAncestorOf(focused)))
+    if (m_state->focus && !m_search->hasFocus() && (hadPanel || !focused || isAncestorOf(focused)))
         PanelMemory(*m_panel, *m_area).restoreFocus(*m_state->focus);
 }
 
@@ -265,7 +328,7 @@ PanelState PropertyPanelView::currentState() const
     PanelState state = *m_state;
     if (!m_panel)
         return state;
-    PanelState current = PanelMemory(*m_panel, *m_area).state();
+    PanelState current = PanelMemory(*m_panel, *m_area, m_search->origin()).state();
     current.labelWidth = m_splitter->labelWidth();
     if (m_isPlacePending)
         current.place = state.place;

@@ -29,6 +29,7 @@ class PropertyList;
 class RowHelp;
 class RuleEngine;
 class ViewPanel;
+class ViewSearch;
 class WheelGuard;
 struct PanelState;
 
@@ -41,6 +42,7 @@ struct PanelState;
  *   host keeps it, the program.
  * - The mouse wheel scrolls, and changes only values of controls that have the focus.
  * - The hint kHostHintHelp of a row is the tool tip of its label and field.
+ * - Ctrl+F searches the rows, see openSearch().
  *
  *     PropertyPanelView view;
  *     view.restoreState(settings.value("panel").toByteArray());
@@ -58,6 +60,7 @@ class TESSARK_PROPERTYHOST_EXPORT PropertyPanelView : public QWidget
     Q_PROPERTY(bool splitterMovable READ isSplitterMovable WRITE setSplitterMovable)
     Q_PROPERTY(bool wheelGuarded READ isWheelGuarded WRITE setWheelGuarded)
     Q_PROPERTY(bool descriptionVisible READ isDescriptionVisible WRITE setDescriptionVisible)
+    Q_PROPERTY(bool searchEnabled READ isSearchEnabled WRITE setSearchEnabled)
 
 public:
     /// A view without rows.
@@ -86,7 +89,8 @@ public:
     RuleEngine *rules() const;
 
     /// Whether a group is open; true for what is no group of this panel. A group that has not the
-    /// library's check box, or another button, stays as it is.
+    /// library's check box, or another button, stays as it is. Groups that only a search has open
+    /// count as closed.
     bool isGroupOpen(const PropertyUI::Property *group) const;
     void setGroupOpen(const PropertyUI::Property *group, bool open);
 
@@ -108,6 +112,22 @@ public:
     /// one, of the row with the focus; not at first.
     bool isDescriptionVisible() const;
     void setDescriptionVisible(bool visible);
+
+    /// Whether Ctrl+F (QKeySequence::Find) in the view opens the search; true at first. What is open
+    /// stays, and openSearch() works in any case.
+    bool isSearchEnabled() const;
+    void setSearchEnabled(bool enabled);
+
+    /// What is searched for: rows that have all of its words, in part or whole, in their label, name,
+    /// choices or help; an empty text finds all. Cases and accents make no difference. Setting it
+    /// opens the search without giving it the focus. Empty while the search is closed.
+    QString searchText() const;
+    void setSearchText(const QString &text);
+
+    /// Whether only rows are found that have another value than their default; not at first, and not
+    /// while the search is closed. Setting it opens the search, too.
+    bool isOnlyChanged() const;
+    void setOnlyChanged(bool onlyChanged);
 
     /**
      * What the user has arranged: open groups, current tabs, how far it is scrolled, which control
@@ -134,6 +154,17 @@ public Q_SLOTS:
     void expandAll();
     void collapseAll();
 
+    /**
+     * Shows a bar above the rows, and gives it the focus, where the user says what to search for. Rows
+     * that do not match are hidden, groups around those that do are open, tabs say how many are on
+     * their pages. The arrow keys, Return and F3 go from match to match. Silent for the delegate.
+     *
+     * closeSearch(), and Escape, give back what was open before, the place that was scrolled to and the
+     * focus; what the user has walked to stays in view, and gets the focus.
+     */
+    void openSearch();
+    void closeSearch();
+
 protected:
     void showEvent(QShowEvent *event) override;
 
@@ -146,6 +177,7 @@ private:
     QScrollArea *m_area;
     DescriptionLine *m_description;
     WheelGuard *m_wheelGuard;
+    ViewSearch *m_search;
     QPointer<ViewPanel> m_panel;    // owned by m_area
     QPointer<PanelExtent> m_extent; // owned by the panel, as is the next
     QPointer<LabelSplitter> m_splitter;

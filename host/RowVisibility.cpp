@@ -30,6 +30,12 @@ RowVisibility::Reasons RowVisibility::reasons(int row) const
     return m_states[static_cast<std::size_t>(row)].reasons;
 }
 
+RowVisibility::Reasons RowVisibility::currentReasons(int row)
+{
+    noteHost(row);
+    return reasons(row);
+}
+
 void RowVisibility::apply()
 {
     const QVector<int> changed = std::exchange(m_changed, {});
@@ -54,6 +60,8 @@ void RowVisibility::apply()
         if (self && page && page != m_panel)
             renewSizeHintsAround(page, m_panel);
     }
+    if (self && !changed.isEmpty())
+        Q_EMIT rowsChanged();
 }
 
 /// Notes what has become of the row behind this object's back.

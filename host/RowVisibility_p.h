@@ -39,12 +39,18 @@ public:
     void setHidden(int row, Reason reason, bool hidden);
     Reasons reasons(int row) const;
 
+    /// The same with what has become of the row behind this object's back.
+    Reasons currentReasons(int row);
+
     /// Shows and hides the rows whose reasons have changed. Their layouts rest meanwhile.
     void apply();
 
 Q_SIGNALS:
     /// Rows of the page, which is the panel or a tab's, are about to come or go.
     void pageChanges(QWidget *page);
+
+    /// Rows were shown or hidden, or would have been but for other reasons.
+    void rowsChanged();
 
 private:
     struct State

@@ -17,6 +17,20 @@ ViewPanel::ViewPanel(const QVector<Property *> &properties, IPropertyEditorDeleg
 
 ViewPanel::~ViewPanel() = default;
 
+void ViewPanel::setSource(IPropertyEditorDelegate *source)
+{
+    m_source = DelegatePointer(source);
+}
+
+void ViewPanel::setValue(Property *property, const QVariant &value,
+                         IPropertyEditorDelegate::ChangeFlags flags)
+{
+    const QPointer<ViewPanel> self(this);
+    PropertyEditorPanel::setValue(property, value, flags);
+    if (self)
+        Q_EMIT edited();
+}
+
 // The rows may show or delete anything: nothing is touched afterwards.
 void ViewPanel::showGroup(PropertyEditor *group, bool)
 {

@@ -56,7 +56,7 @@ int main(int argc, char *argv[])
     PropertyPanelView view;
     view.setProperties(list, &store);
     view.setGroupOpen(list.properties().at(list.properties().size() - 3), false);
-    view.resize(400, 350);
+    view.resize(400, 370);
     view.show();
 
     const QPalette palette = view.palette();

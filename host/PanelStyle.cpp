@@ -110,6 +110,12 @@ QStyle::SubControl outlinedPart(QStyle::ComplexControl control, const QStyleOpti
     return control == QStyle::CC_ScrollBar ? ifDrawn(QStyle::SC_ScrollBarSlider) : QStyle::SC_None;
 }
 
+QFont boldened(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
 QFontMetrics fontMetricsFor(const QStyleOption *option, const QWidget *widget)
 {
     if (option)
@@ -167,7 +173,8 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     };
     if (control == CC_Slider && option->subControls.testFlag(SC_SliderGroove)) {
         painter->save();
-        painter->setClipRegion(QRegion(option->rect).subtracted(rectOf(SC_SliderHandle)));
+        painter->setClipRegion(QRegion(option->rect).subtracted(rectOf(SC_SliderHandle)),
+                               Qt::IntersectClip);
         drawOutline(Shape::Round, rectOf(SC_SliderGroove), *option, painter, widget);
         painter->restore();
     }
@@ -197,9 +204,7 @@ void PanelStyle::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     // A font that the host or a hint has set for this very widget stays.
     if (isDisclosure(widget) && !widget->testAttribute(Qt::WA_SetFont)) {
-        QFont font = widget->font();
-        font.setBold(true);
-        widget->setFont(font);
+        widget->setFont(boldened(widget->font()));
         widget->setProperty(kBoldProperty, true);
     }
 }
@@ -207,7 +212,10 @@ void PanelStyle::polish(QWidget *widget)
 void PanelStyle::unpolish(QWidget *widget)
 {
     if (widget->property(kBoldProperty).toBool()) {
-        widget->setFont(QFont());
+        const QWidget *const parent = widget->parentWidget();
+        const QFont inherited = parent ? parent->font() : QApplication::font(widget);
+        if (widget->font() == boldened(inherited)) // else the host has given it another one since
+            widget->setFont(QFont());
         widget->setProperty(kBoldProperty, QVariant());
     }
     QProxyStyle::unpolish(widget);
@@ -243,7 +251,7 @@ void PanelStyle::drawTabOutline(const QStyleOptionTab &option, QPainter *painter
     const int width = proxy()->pixelMetric(PM_DefaultFrameWidth, &option, widget);
     const Qt::Edge page = pageEdge(option.shape);
     painter->save();
-    painter->setClipRect(option.rect);
+    painter->setClipRect(option.rect, Qt::IntersectClip);
     drawOutline(Shape::Box, grownAt(page, option.rect, 2 * width), option, painter, widget);
     if (option.state.testFlag(State_Selected) && outlinePen(option, width).style() == Qt::SolidLine)
         painter->fillRect(grownAt(page, option.rect, kBar * width - thickness(page, option.rect)),

@@ -33,6 +33,7 @@ using TestSupport::contrast;
 
 using MakeWidget = std::function<QWidget *()>;
 Q_DECLARE_METATYPE(MakeWidget)
+Q_DECLARE_METATYPE(PanelLook)
 
 namespace {
 
@@ -111,6 +112,7 @@ private Q_SLOTS:
     void otherCheckBoxesAreNot();
     void disclosureTextIsBoldUnlessAFontIsGiven();
     void otherStyleMakesTheTextPlainAgain();
+    void fontGivenLaterStays();
     void boldTextFollowsTheFontOfTheApplication();
 
     void horizontalLineIsSofterThanText();
@@ -125,6 +127,8 @@ private Q_SLOTS:
     void outlinesAreThoseOfThePalette();
     void palettesWithoutOutlinesGetNone();
     void focusDoublesTheOutline();
+    void statesDifferInShape_data();
+    void statesDifferInShape();
     void currentTabHasABar_data();
     void currentTabHasABar();
 
@@ -231,6 +235,20 @@ void tst_PanelStyle::otherStyleMakesTheTextPlainAgain()
     QVERIFY(!group.testAttribute(Qt::WA_SetFont));
     group.setStyle(nullptr);
     QVERIFY(group.font().bold());
+}
+
+void tst_PanelStyle::fontGivenLaterStays()
+{
+    const std::unique_ptr<QStyle> other(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QFont given(QStringLiteral("serif"), 17);
+    QCheckBox group;
+    group.setProperty("disclosure", true);
+    group.ensurePolished();
+    group.setFont(given);
+
+    group.setStyle(other.get());
+
+    QCOMPARE(group.font().pointSize(), given.pointSize());
 }
 
 void tst_PanelStyle::boldTextFollowsTheFontOfTheApplication()
@@ -396,6 +414,41 @@ void tst_PanelStyle::focusDoublesTheOutline()
     const QImage image = picture(edit);
     for (const int y : {0, 1})
         QCOMPARE(countLike(upperEdge(image, y), highlight), int(upperEdge(image, y).size()));
+}
+
+void tst_PanelStyle::statesDifferInShape_data()
+{
+    QTest::addColumn<PanelLook>("look");
+
+    QTest::newRow("light") << PanelLook::Light;
+    QTest::newRow("dark") << PanelLook::Dark;
+    QTest::newRow("high contrast") << PanelLook::HighContrast;
+}
+
+/// Whatever can be seen at all counts as black here, so only shapes remain.
+void tst_PanelStyle::statesDifferInShape()
+{
+    QFETCH(PanelLook, look);
+    applyPanelLook(look);
+    QVector<QImage> shapes;
+    for (const Qt::CheckState state : {Qt::Unchecked, Qt::PartiallyChecked, Qt::Checked}) {
+        for (const bool enabled : {true, false}) {
+            QCheckBox box;
+            box.setTristate();
+            box.setCheckState(state);
+            box.setEnabled(enabled);
+            QImage image = picture(box);
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    image.setPixelColor(x, y,
+                                        contrast(image.pixelColor(x, y), role(QPalette::Window)) > 2
+                                            ? Qt::black
+                                            : Qt::white);
+            }
+            QVERIFY(!shapes.contains(image));
+            shapes.append(image);
+        }
+    }
 }
 
 void tst_PanelStyle::currentTabHasABar_data()

@@ -109,6 +109,56 @@ std::optional<bool> stateForKey(const QKeyEvent &event, bool rightToLeft)
     }
 }
 
+/// A style sheet draws no triangles, but borders meet at a slant: in a box without content, one
+/// coloured border between two invisible ones is a triangle, without an image and in any resolution.
+/// The invisible colour is not "transparent", for which no room would be left at the slant. Margins
+/// fill the indicator up to the side in every state. The last rules come in two spellings because
+/// Qt 5 and Qt 6 turn the property's value into text differently.
+constexpr char kDisclosureSheet[] = R"(
+QCheckBox[disclosure="true"]::indicator {
+    width: 0px;
+    height: 0px;
+    border-style: solid;
+    border-color: rgba(255, 255, 255, 0);
+}
+QCheckBox[disclosure="true"]::indicator:checked {
+    margin: %1px %2px %3px %2px;
+    border-width: %4px %2px 0px %2px;
+    border-top-color: %5;
+}
+QCheckBox[disclosure="true"]::indicator:checked:disabled {
+    border-top-color: %6;
+}
+QCheckBox[disclosure="true"]::indicator:unchecked {
+    margin: %2px %1px %2px %3px;
+    border-width: %2px 0px %2px %4px;
+    border-left-color: %5;
+}
+QCheckBox[disclosure="true"]::indicator:unchecked:disabled {
+    border-left-color: %6;
+}
+QCheckBox[disclosure="true"][layoutDirection="1"]::indicator:unchecked,
+QCheckBox[disclosure="true"][layoutDirection="RightToLeft"]::indicator:unchecked {
+    margin: %2px %3px %2px %1px;
+    border-width: %2px %4px %2px 0px;
+    border-right-color: %5;
+}
+QCheckBox[disclosure="true"][layoutDirection="1"]::indicator:unchecked:disabled,
+QCheckBox[disclosure="true"][layoutDirection="RightToLeft"]::indicator:unchecked:disabled {
+    border-right-color: %6;
+}
+)";
+
+QString disclosureSheet(int side, const QString &color, const QString &disabledColor)
+{
+    const int half = qMax(side, 4) / 4; // of the triangle's side, which is half of the indicator's
+    const int height = 2 * half - 1;    // near enough
+    const int rest = 4 * half - height;
+    return QLatin1String(kDisclosureSheet)
+        .arg(QString::number((rest + 1) / 2), QString::number(half), QString::number(rest / 2),
+             QString::number(height), color, disabledColor);
+}
+
 } // namespace
 
 DisclosureButton::DisclosureButton(QWidget *parent, bool flat)
@@ -217,9 +267,7 @@ void DisclosureButton::paintEvent(QPaintEvent *)
     if (!icon.isNull()) {
         drawIcon(&painter, option, icon);
     } else {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(look.color);
-        painter.drawPolygon(triangleIn(option.rect, isChecked(), isRightToLeft()));
+        drawDisclosureTriangle(&painter, option.rect, isChecked(), layoutDirection(), look.color);
     }
 }
 
@@ -243,47 +291,26 @@ bool DisclosureButton::isRound() const
     return property(kGroupProperty).toString() == QLatin1String("round");
 }
 
-/// A style sheet draws no triangles, but borders meet at a slant: in a box without content, one
-/// coloured border between two invisible ones is a triangle, without an image and in any resolution.
-/// The invisible colour is not "transparent", for which no room would be left at the slant. Margins
-/// fill the indicator up to 16 x 16 in every state. The last rules come in two spellings because Qt 5
-/// and Qt 6 turn the property's value into text differently.
+void drawDisclosureTriangle(QPainter *painter, const QRectF &rect, bool open,
+                            Qt::LayoutDirection direction, const QColor &color)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    painter->drawPolygon(triangleIn(rect, open, direction == Qt::RightToLeft));
+    painter->restore();
+}
+
 QString disclosureStyleSheet()
 {
-    return QStringLiteral(R"(
-QCheckBox[disclosure="true"]::indicator {
-    width: 0px;
-    height: 0px;
-    border-style: solid;
-    border-color: rgba(255, 255, 255, 0);
+    return disclosureSheet(16, QStringLiteral("palette(button-text)"),
+                           QStringLiteral("palette(mid)"));
 }
-QCheckBox[disclosure="true"]::indicator:checked {
-    margin: 5px 4px 4px 4px;
-    border-width: 7px 4px 0px 4px;
-    border-top-color: palette(button-text);
-}
-QCheckBox[disclosure="true"]::indicator:checked:disabled {
-    border-top-color: palette(mid);
-}
-QCheckBox[disclosure="true"]::indicator:unchecked {
-    margin: 4px 5px 4px 4px;
-    border-width: 4px 0px 4px 7px;
-    border-left-color: palette(button-text);
-}
-QCheckBox[disclosure="true"]::indicator:unchecked:disabled {
-    border-left-color: palette(mid);
-}
-QCheckBox[disclosure="true"][layoutDirection="1"]::indicator:unchecked,
-QCheckBox[disclosure="true"][layoutDirection="RightToLeft"]::indicator:unchecked {
-    margin: 4px 4px 4px 5px;
-    border-width: 4px 7px 4px 0px;
-    border-right-color: palette(button-text);
-}
-QCheckBox[disclosure="true"][layoutDirection="1"]::indicator:unchecked:disabled,
-QCheckBox[disclosure="true"][layoutDirection="RightToLeft"]::indicator:unchecked:disabled {
-    border-right-color: palette(mid);
-}
-)");
+
+QString disclosureStyleSheet(int side, const QColor &color, const QColor &disabledColor)
+{
+    return disclosureSheet(side, color.name(), disabledColor.name());
 }
 
 } // namespace Tessark::UI

@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QIcon>
 
+class QColor;
+class QPainter;
 class QStyleOptionButton;
 
 namespace Tessark::UI {
@@ -65,9 +67,19 @@ private:
     bool m_flat;
 };
 
+/// Draws the triangle of DisclosureButton, half as large as the rectangle, in its middle; for styles
+/// that draw the "disclosure" check boxes. Open, it points down, else in the direction of reading.
+TESSARK_CORE_EXPORT void drawDisclosureTriangle(QPainter *painter, const QRectF &rect, bool open,
+                                                Qt::LayoutDirection direction, const QColor &color);
+
 /// A style sheet that draws every QCheckBox whose dynamic property "disclosure" is true as the
 /// triangle of DisclosureButton, in the colours of the application's palette. Nothing installs it:
 /// give it to setStyleSheet() of the application or of a widget.
 TESSARK_CORE_EXPORT QString disclosureStyleSheet();
+
+/// The same for an indicator of another side, in pixels, than 16: it is rounded down to a multiple
+/// of 4 and is at least 4. The colours are opaque.
+TESSARK_CORE_EXPORT QString disclosureStyleSheet(int side, const QColor &color,
+                                                 const QColor &disabledColor);
 
 } // namespace Tessark::UI

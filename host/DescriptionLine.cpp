@@ -64,6 +64,12 @@ QSize DescriptionLine::minimumSizeHint() const
     return sizeHint();
 }
 
+/// A label whose text is wrapped is asked for this rather than for its sizes.
+int DescriptionLine::heightForWidth(int) const
+{
+    return sizeHint().height();
+}
+
 bool DescriptionLine::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::HoverMove || event->type() == QEvent::HoverEnter) {

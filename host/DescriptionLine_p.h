@@ -23,6 +23,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:

@@ -2,6 +2,7 @@
 
 #include "host/DescriptionLine_p.h"
 #include "host/LabelSplitter_p.h"
+#include "host/NumberFieldWidths_p.h"
 #include "host/PanelExtent_p.h"
 #include "host/PanelMemory_p.h"
 #include "host/PanelState_p.h"
@@ -229,6 +230,7 @@ void PropertyPanelView::updateProperty(Property *property)
         panel->updateProperty(property);
     if (!panel || panel != m_panel)
         return;
+    m_numberFields->update();
     m_help->update(property);
     m_description->showHelp();
     m_search->update(property);
@@ -302,6 +304,7 @@ void PropertyPanelView::replacePanel(ViewPanel *panel)
 {
     delete m_panel;
     m_panel = panel;
+    m_numberFields = new NumberFieldWidths(panel);
     m_extent = new PanelExtent(panel->rows(), panel);
     connect(&panel->visibility(), &RowVisibility::pageChanges, m_extent, &PanelExtent::pageChanges);
     m_splitter = new LabelSplitter(panel->rows(), panel);

@@ -24,6 +24,7 @@ namespace Tessark::PropertyHost {
 
 class DescriptionLine;
 class LabelSplitter;
+class NumberFieldWidths;
 class PanelExtent;
 class PropertyList;
 class RowHelp;
@@ -40,6 +41,7 @@ struct PanelState;
  *   was when the one around it opens, and groups on tab pages fold too.
  * - What the user has arranged, see saveState(), survives a change of the properties and, if the
  *   host keeps it, the program.
+ * - Fields of numbers are wide enough for the longest one of their range.
  * - The mouse wheel scrolls, and changes only values of controls that have the focus.
  * - The hint kHostHintHelp of a row is the tool tip of its label and field.
  * - Ctrl+F searches the rows, see openSearch().
@@ -178,8 +180,9 @@ private:
     DescriptionLine *m_description;
     WheelGuard *m_wheelGuard;
     ViewSearch *m_search;
-    QPointer<ViewPanel> m_panel;    // owned by m_area
-    QPointer<PanelExtent> m_extent; // owned by the panel, as is the next
+    QPointer<ViewPanel> m_panel;                // owned by m_area
+    QPointer<NumberFieldWidths> m_numberFields; // owned by the panel, as are the next two
+    QPointer<PanelExtent> m_extent;
     QPointer<LabelSplitter> m_splitter;
     std::unique_ptr<RowHelp> m_help;
     std::unique_ptr<RuleEngine> m_rules;

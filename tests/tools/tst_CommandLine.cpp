@@ -4,10 +4,11 @@
 
 using namespace Tessark::PropertyPanel;
 using Tessark::PropertyHost::CommitMode;
+using Tessark::PropertyHost::PanelLook;
 using Task = Options::Task;
 
 Q_DECLARE_METATYPE(Task)
-Q_DECLARE_METATYPE(Theme)
+Q_DECLARE_METATYPE(PanelLook)
 
 class tst_CommandLine : public QObject
 {
@@ -54,7 +55,7 @@ void tst_CommandLine::nothingShowsTheBuiltInList()
     QVERIFY(!result.options.live);
     QVERIFY(result.options.commitMode.isLive());
     QVERIFY(!result.options.size.isValid());
-    QCOMPARE(result.options.theme, Theme::System);
+    QCOMPARE(result.options.theme, PanelLook::System);
 }
 
 void tst_CommandLine::pathsAndFlags()
@@ -136,11 +137,12 @@ void tst_CommandLine::badSize()
 void tst_CommandLine::theme_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<Theme>("theme");
+    QTest::addColumn<PanelLook>("theme");
 
-    QTest::newRow("system") << QStringLiteral("system") << Theme::System;
-    QTest::newRow("light") << QStringLiteral("light") << Theme::Light;
-    QTest::newRow("dark") << QStringLiteral("dark") << Theme::Dark;
+    QTest::newRow("system") << QStringLiteral("system") << PanelLook::System;
+    QTest::newRow("light") << QStringLiteral("light") << PanelLook::Light;
+    QTest::newRow("dark") << QStringLiteral("dark") << PanelLook::Dark;
+    QTest::newRow("high contrast") << QStringLiteral("high-contrast") << PanelLook::HighContrast;
 }
 
 void tst_CommandLine::theme()

@@ -1,8 +1,8 @@
+#include <host/PanelLook.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
 #include <property/PropertyVocabulary.h>
 #include <tools/property-panel/PanelRenderer.h>
-#include <tools/property-panel/Themes.h>
 
 #include <QApplication>
 #include <QDir>
@@ -72,7 +72,7 @@ int countColors(const QImage &image)
 
 void tst_PanelRenderer::initTestCase()
 {
-    applyTheme(Theme::Light);
+    Tessark::PropertyHost::applyPanelLook(Tessark::PropertyHost::PanelLook::Light);
 }
 
 void tst_PanelRenderer::init()

@@ -9,6 +9,8 @@
 
 namespace Tessark::PropertyPanel {
 
+using PropertyHost::PanelLook;
+
 namespace {
 
 constexpr int kMaximumExtent = 10000;
@@ -63,7 +65,7 @@ void describe(QCommandLineParser &parser)
          tr("PNG")},
         {kSize, tr("Size of the window, or of the picture; a picture grows to hold the panel."),
          tr("WxH")},
-        {kTheme, tr("Look: system (the default), light or dark."), tr("THEME")},
+        {kTheme, tr("Look: system (the default), light, dark or high-contrast."), tr("THEME")},
         {kTrusted, tr("Let the list name pictures anywhere and have style sheets. Without it, its "
                       "pictures must lie in its folder or below.")},
         {{QStringLiteral("v"), kVersion}, tr("Print the version.")},
@@ -94,16 +96,19 @@ std::optional<QSize> sizeFromText(const QString &text)
     return size;
 }
 
-std::optional<Theme> themeFromText(const QString &text)
+std::optional<PanelLook> themeFromText(const QString &text)
 {
     constexpr struct
     {
         const char *name;
-        Theme theme;
-    } themes[] = {{"system", Theme::System}, {"light", Theme::Light}, {"dark", Theme::Dark}};
+        PanelLook look;
+    } themes[] = {{"system", PanelLook::System},
+                  {"light", PanelLook::Light},
+                  {"dark", PanelLook::Dark},
+                  {"high-contrast", PanelLook::HighContrast}};
     for (const auto &entry : themes) {
         if (text == QLatin1String(entry.name))
-            return entry.theme;
+            return entry.look;
     }
     return std::nullopt;
 }
@@ -169,10 +174,11 @@ void readSize(const QString &text, CommandLine &result)
 
 void readTheme(const QString &text, CommandLine &result)
 {
-    const std::optional<Theme> theme = themeFromText(text);
+    const std::optional<PanelLook> theme = themeFromText(text);
     if (!theme)
-        result.error = tr("There is no theme \"%1\"; choose system, light or dark.").arg(text);
-    result.options.theme = theme.value_or(Theme::System);
+        result.error =
+            tr("There is no theme \"%1\"; choose system, light, dark or high-contrast.").arg(text);
+    result.options.theme = theme.value_or(PanelLook::System);
 }
 
 void readCommitMode(const QString &text, CommandLine &result)

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Themes.h"
-
 #include <host/CommitPolicy.h>
+#include <host/PanelLook.h>
 
 #include <QSize>
 #include <QString>
@@ -22,7 +21,7 @@ struct Options
     QString outputPath;   // empty: standard output, or nowhere with settings
     QString renderPath;   // of the first picture
     QSize size;           // invalid: as large as the panel wants
-    Theme theme = Theme::System;
+    PropertyHost::PanelLook theme = PropertyHost::PanelLook::System;
     bool live = false;
     PropertyHost::CommitMode commitMode = PropertyHost::CommitMode::live(); // of the live lines
     bool trusted = false;

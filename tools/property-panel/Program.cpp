@@ -98,7 +98,7 @@ ExitStatus runTask(const Options &options, Display display)
         return check(input);
     if (input.hasErrors)
         return ExitStatus::BadInput;
-    applyTheme(options.theme);
+    PropertyHost::applyPanelLook(options.theme);
     if (options.task == Options::Task::Render)
         return render(input, options);
     if (display == Display::Present)

@@ -1,0 +1,95 @@
+#include "host/NumberFieldWidths_p.h"
+
+#include <property/PropertyLayout.h>
+
+#include <QEvent>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+
+#include <algorithm>
+
+namespace Tessark::PropertyHost {
+
+namespace {
+
+constexpr int kLongestText = 18; // characters; what a spin box itself makes room for
+constexpr int kTextMargins = 5; // pixels that a line edit keeps free around a text, cursor included
+
+bool isFixed(const QWidget &widget)
+{
+    return widget.minimumSize() == widget.maximumSize();
+}
+
+bool isWholeRow(const QWidget &widget)
+{
+    return widget.parentWidget()
+           && qobject_cast<PropertyUI::PropertyLayout *>(widget.parentWidget()->layout());
+}
+
+/// Of the number in such a field, with all of its decimals.
+int textWidth(const QDoubleSpinBox &box, double number)
+{
+    const QString text = box.locale().toString(number, 'f', box.decimals()).left(kLongestText);
+    return box.fontMetrics().horizontalAdvance(box.prefix() + text + box.suffix());
+}
+
+/// What a spin box adds to the width of its text.
+int frameWidth(const QDoubleSpinBox &box)
+{
+    QStyleOptionSpinBox option;
+    option.initFrom(&box);
+    option.frame = box.hasFrame();
+    option.buttonSymbols = box.buttonSymbols();
+    option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
+    option.subControls = QStyle::SC_All;
+    option.rect = QRect(QPoint(), box.maximumSize());
+    const QRect field =
+        box.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, &box);
+    return option.rect.width() - field.width() + kTextMargins;
+}
+
+int wantedWidth(const QDoubleSpinBox &box)
+{
+    return frameWidth(box) + std::max(textWidth(box, box.minimum()), textWidth(box, box.maximum()));
+}
+
+} // namespace
+
+NumberFieldWidths::NumberFieldWidths(QWidget *panel)
+    : QObject(panel)
+{
+    const QList<QDoubleSpinBox *> boxes = panel->findChildren<QDoubleSpinBox *>();
+    for (QDoubleSpinBox *const box : boxes) {
+        if (!isFixed(*box) || isWholeRow(*box))
+            continue;
+        m_fields.push_back({box, box->minimumWidth()});
+        box->installEventFilter(this);
+    }
+    update();
+}
+
+void NumberFieldWidths::update()
+{
+    m_isPending = false;
+    for (const Field &field : m_fields) {
+        if (!field.box)
+            continue;
+        field.box->ensurePolished();
+        field.box->setFixedSize(std::max(field.smallest, wantedWidth(*field.box)),
+                                field.box->sizeHint().height());
+    }
+}
+
+bool NumberFieldWidths::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool changesSize =
+        event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    if (changesSize && !m_isPending) {
+        // Once for all fields, when they know of the change themselves.
+        m_isPending = true;
+        QMetaObject::invokeMethod(this, &NumberFieldWidths::update, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace Tessark::PropertyHost

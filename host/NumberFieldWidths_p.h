@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDoubleSpinBox>
+#include <QObject>
+#include <QPointer>
+
+#include <vector>
+
+namespace Tessark::PropertyHost {
+
+/**
+ * Keeps the fields of a panel that have a fixed size from cutting off their numbers: they become wide
+ * enough for the longest one of their range, and as high as the font asks for. None becomes narrower
+ * than it was. Fields that are whole rows stay as they are: their size may be the host's.
+ */
+class NumberFieldWidths : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Widens the fields that the panel has now.
+    explicit NumberFieldWidths(QWidget *panel);
+
+    /// To be called when ranges or suffixes may have changed.
+    void update();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Field
+    {
+        QPointer<QDoubleSpinBox> box;
+        int smallest = 0; // width
+    };
+
+    std::vector<Field> m_fields;
+    bool m_isPending = false;
+};
+
+} // namespace Tessark::PropertyHost

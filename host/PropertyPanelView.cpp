@@ -1,6 +1,7 @@
 #include "host/PropertyPanelView.h"
 
 #include "host/DescriptionLine_p.h"
+#include "host/LabelElider_p.h"
 #include "host/LabelSplitter_p.h"
 #include "host/PanelExtent_p.h"
 #include "host/PanelMemory_p.h"
@@ -8,6 +9,8 @@
 #include "host/PropertyList.h"
 #include "host/RowHelp_p.h"
 #include "host/RuleEngine.h"
+#include "host/SplitterHandle_p.h"
+#include "host/TextsAsWritten.h"
 #include "host/ViewPanel_p.h"
 #include "host/WheelGuard.h"
 
@@ -15,6 +18,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace Tessark::PropertyHost {
@@ -25,6 +29,7 @@ PropertyPanelView::PropertyPanelView(QWidget *parent)
     : QWidget(parent)
     , m_area(new QScrollArea(this))
     , m_description(new DescriptionLine(this))
+    , m_splitterHandle(new SplitterHandle(m_area->viewport()))
     , m_wheelGuard(new WheelGuard(this))
     , m_state(std::make_unique<PanelState>())
 {
@@ -104,11 +109,32 @@ void PropertyPanelView::setGroupOpen(const Property *group, bool open)
     m_panel->folding().update();
 }
 
+QSize PropertyPanelView::contentsSize() const
+{
+    if (m_extent)
+        m_extent->settle();
+    QSize size = m_extent ? m_extent->wantedSize() : QSize(0, 0);
+    for (int i = 0; i < layout()->count(); ++i) {
+        const QLayoutItem &item = *layout()->itemAt(i);
+        if (item.isEmpty() || item.widget() == m_area)
+            continue;
+        size.setWidth(std::max(size.width(), item.minimumSize().width()));
+        size.rheight() += item.sizeHint().height();
+    }
+    return size;
+}
+
+void PropertyPanelView::setTextsAsWritten(bool asWritten)
+{
+    m_areTextsAsWritten = asWritten;
+}
+
 void PropertyPanelView::setSplitterMovable(bool movable)
 {
     m_isSplitterMovable = movable;
     if (m_splitter)
         m_splitter->setMovable(movable);
+    m_splitterHandle->placeLater();
 }
 
 int PropertyPanelView::labelWidth() const
@@ -216,6 +242,8 @@ void PropertyPanelView::install(std::unique_ptr<ViewPanel> panel, std::unique_pt
 {
     const QPointer<PropertyPanelView> self(this);
     const int installation = m_installations;
+    if (m_areTextsAsWritten)
+        showTextsAsWritten(*panel);
     panel->updateUI();
     if (self && m_installations == installation && rules)
         rules->attach(panel.get());
@@ -244,9 +272,11 @@ void PropertyPanelView::replacePanel(ViewPanel *panel)
     m_splitter = new LabelSplitter(panel->rows(), panel);
     m_splitter->setLabelWidth(m_state->labelWidth);
     m_splitter->setMovable(m_isSplitterMovable);
+    new LabelElider(*panel->rows(), panel);
     m_help = std::make_unique<RowHelp>(panel->rows());
     m_wheelGuard->watch(panel);
     m_area->setWidget(panel);
+    m_splitterHandle->follow(m_splitter, m_extent, panel);
     m_description->follow(panel->rows(), panel);
 }
 

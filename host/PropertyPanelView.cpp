@@ -29,7 +29,6 @@ PropertyPanelView::PropertyPanelView(QWidget *parent)
     : QWidget(parent)
     , m_area(new QScrollArea(this))
     , m_description(new DescriptionLine(this))
-    , m_splitterHandle(new SplitterHandle(m_area->viewport()))
     , m_wheelGuard(new WheelGuard(this))
     , m_state(std::make_unique<PanelState>())
 {
@@ -134,7 +133,8 @@ void PropertyPanelView::setSplitterMovable(bool movable)
     m_isSplitterMovable = movable;
     if (m_splitter)
         m_splitter->setMovable(movable);
-    m_splitterHandle->placeLater();
+    if (m_splitterHandle)
+        m_splitterHandle->placeLater();
 }
 
 int PropertyPanelView::labelWidth() const
@@ -276,7 +276,8 @@ void PropertyPanelView::replacePanel(ViewPanel *panel)
     m_help = std::make_unique<RowHelp>(panel->rows());
     m_wheelGuard->watch(panel);
     m_area->setWidget(panel);
-    m_splitterHandle->follow(m_splitter, m_extent, panel);
+    delete m_splitterHandle; // so that Tab reaches the new one behind the rows
+    m_splitterHandle = new SplitterHandle(m_splitter, m_extent, panel, m_area->viewport());
     m_description->follow(panel->rows(), panel);
 }
 

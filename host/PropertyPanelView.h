@@ -103,7 +103,7 @@ public:
 
     /// Whether the user can move the line between labels and fields; not at first. It is dragged in
     /// the gap between the two, where a double click makes the width automatic again. Tab reaches it
-    /// before the rows: Left and Right, Home and End move it, Return makes the width automatic.
+    /// behind the rows: Left and Right, Home and End move it, Return makes the width automatic.
     bool isSplitterMovable() const { return m_isSplitterMovable; }
     void setSplitterMovable(bool movable);
 
@@ -158,11 +158,11 @@ private:
 
     QScrollArea *m_area;
     DescriptionLine *m_description;
-    SplitterHandle *m_splitterHandle;
     WheelGuard *m_wheelGuard;
     QPointer<ViewPanel> m_panel;    // owned by m_area
     QPointer<PanelExtent> m_extent; // owned by the panel, as is the next
     QPointer<LabelSplitter> m_splitter;
+    QPointer<SplitterHandle> m_splitterHandle; // owned by m_area
     std::unique_ptr<RowHelp> m_help;
     std::unique_ptr<RuleEngine> m_rules;
     std::unique_ptr<PanelState> m_state; // of the panels so far, or as it was restored

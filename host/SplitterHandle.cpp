@@ -21,26 +21,22 @@ const auto kPlace = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 } // namespace
 
-SplitterHandle::SplitterHandle(QWidget *viewport)
+SplitterHandle::SplitterHandle(LabelSplitter *splitter, PanelExtent *extent, QWidget *panel,
+                               QWidget *viewport)
     : QWidget(viewport)
+    , m_splitter(splitter)
+    , m_extent(extent)
+    , m_panel(panel)
 {
     installSplitterHandleAccessibility();
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(tr("Width of labels"));
-    viewport->installEventFilter(this);
     hide();
-}
-
-void SplitterHandle::follow(LabelSplitter *splitter, PanelExtent *extent, QWidget *panel)
-{
-    m_splitter = splitter;
-    m_extent = extent;
-    m_panel = panel;
+    viewport->installEventFilter(this);
     panel->installEventFilter(this);
     connect(splitter, &LabelSplitter::moved, this, &SplitterHandle::placeLater);
     connect(splitter, &QObject::destroyed, this, &SplitterHandle::placeLater);
-    raise();
     placeLater();
 }
 

@@ -9,7 +9,7 @@ class LabelSplitter;
 class PanelExtent;
 
 /**
- * The line between labels and fields for users without a mouse: a control that Tab reaches before the
+ * The line between labels and fields for users without a mouse: a control that Tab reaches behind the
  * rows, while the line can be moved. Left and Right move it, Home and End as far as it goes, Return
  * makes the width of the labels automatic again. Assistive technology sees a splitter with the width
  * in pixels as its value.
@@ -22,11 +22,8 @@ class SplitterHandle final : public QWidget
     Q_OBJECT
 
 public:
-    /// viewport is that of the scroll area that shows the panels.
-    explicit SplitterHandle(QWidget *viewport);
-
-    /// Stands for the line of this panel from now on.
-    void follow(LabelSplitter *splitter, PanelExtent *extent, QWidget *panel);
+    /// For the line of this panel. viewport, that of the scroll area around the panel, owns it.
+    SplitterHandle(LabelSplitter *splitter, PanelExtent *extent, QWidget *panel, QWidget *viewport);
 
     /// Goes to where the line is, or hides without one, once the rows are where they belong.
     void placeLater();

@@ -16,6 +16,17 @@ namespace {
 constexpr int kSmallestLabelWidth = 24;
 constexpr int kReach = 2; // above and below a row, so that the gaps between rows belong to it
 
+/// What lies between label and field, in their page.
+QRect gapOf(const PanelRow &row)
+{
+    const QRect label = row.label->geometry();
+    const QRect field = row.field->geometry();
+    const QRect both = label.united(field).adjusted(0, -kReach, 0, kReach);
+    const int left = std::min(label.right(), field.right()) + 1;
+    const int right = std::max(label.left(), field.left());
+    return {left, both.top(), right - left, both.height()};
+}
+
 } // namespace
 
 LabelSplitter::LabelSplitter(std::shared_ptr<const PanelRows> rows, QWidget *panel)
@@ -53,6 +64,38 @@ void LabelSplitter::setLabelWidth(std::optional<int> width)
         if (auto *const layout = qobject_cast<PropertyLayout *>(page->layout()))
             layout->setLabelWidth(width.value_or(-1));
     }
+    Q_EMIT moved();
+}
+
+QRect LabelSplitter::shownGap() const
+{
+    const PanelRow *const row = shownRow();
+    if (!row)
+        return QRect();
+    const QRect gap = gapOf(*row);
+    return QRect(row->label->parentWidget()->mapTo(m_panel, gap.topLeft()), gap.size());
+}
+
+int LabelSplitter::shownWidth() const
+{
+    const PanelRow *const row = shownRow();
+    return row ? widthOf(*row->label->parentWidget()) : 0;
+}
+
+int LabelSplitter::smallestWidth() const
+{
+    return std::min(kSmallestLabelWidth, shownWidth());
+}
+
+int LabelSplitter::widestWidth() const
+{
+    return widestOf(shownWidth());
+}
+
+void LabelSplitter::moveTo(int width)
+{
+    if (shownRow())
+        setLabelWidth(std::max(std::min(width, widestWidth()), kSmallestLabelWidth));
 }
 
 bool LabelSplitter::eventFilter(QObject *watched, QEvent *event)
@@ -77,19 +120,23 @@ bool LabelSplitter::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
+/// On the page that is in view, if there are several.
+const PanelRow *LabelSplitter::shownRow() const
+{
+    const auto &rows = m_rows->all();
+    const auto found = std::find_if(rows.cbegin(), rows.cend(), [this](const PanelRow &row) {
+        return m_panel && row.label && row.field && row.label->isVisibleTo(m_panel);
+    });
+    return found == rows.cend() ? nullptr : &*found;
+}
+
 bool LabelSplitter::isOverGap(const QWidget &page, const QPoint &position) const
 {
     const auto &rows = m_rows->all();
     return std::any_of(rows.cbegin(), rows.cend(), [&page, &position](const PanelRow &row) {
         if (!row.label || !row.field || row.field->parentWidget() != &page || row.field->isHidden())
             return false;
-        const QRect label = row.label->geometry();
-        const QRect field = row.field->geometry();
-        const QRect both = label.united(field).adjusted(0, -kReach, 0, kReach);
-        const int left = std::min(label.right(), field.right());
-        const int right = std::max(label.left(), field.left());
-        return position.y() >= both.top() && position.y() <= both.bottom() && position.x() > left
-               && position.x() < right;
+        return gapOf(row).contains(position);
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QRect>
 
 #include <memory>
 #include <optional>
@@ -19,18 +20,36 @@ namespace Tessark::PropertyHost {
  */
 class LabelSplitter final : public QObject
 {
+    Q_OBJECT
+
 public:
     /// panel owns it, and lies in a scroll area.
     LabelSplitter(std::shared_ptr<const PanelRows> rows, QWidget *panel);
 
     /// Whether the user may drag it; not at first.
+    bool isMovable() const { return m_isMovable; }
     void setMovable(bool movable);
 
     /// In pixels; nothing if each page has the width of its widest label.
     std::optional<int> labelWidth() const { return m_labelWidth; }
     void setLabelWidth(std::optional<int> width);
 
+    /// The gap at the first row that shows its label, in the panel; null without such a row.
+    QRect shownGap() const;
+
+    /// The width of the labels around that row, and the range that the user can move it in.
+    int shownWidth() const;
+    int smallestWidth() const;
+    int widestWidth() const;
+
+    /// Sets the width within that range.
+    void moveTo(int width);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// By the user or by setLabelWidth().
+    void moved();
 
 private:
     struct Drag
@@ -40,6 +59,7 @@ private:
         int widest = 0;
     };
 
+    const PanelRow *shownRow() const;
     bool isOverGap(const QWidget &page, const QPoint &position) const;
     void showCursor(QWidget &page, bool overGap);
     bool mousePressed(QWidget &page, const QMouseEvent &event);

@@ -4,7 +4,9 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QHash>
 #include <QScrollArea>
+#include <QTabWidget>
 
 #include <algorithm>
 #include <utility>
@@ -43,6 +45,39 @@ void fit(QWidget &page)
         layout->setGeometry(page.rect());
 }
 
+/// What the pages of tabs like to have more than the tabs take for them.
+int roomForPages(const QLayoutItem &item, const QHash<const QWidget *, int> &wanted)
+{
+    const auto *const tabs = qobject_cast<const QTabWidget *>(item.widget());
+    int taken = 0;
+    int most = 0;
+    for (int i = 0; tabs && i < tabs->count(); ++i) {
+        const QWidget &page = *tabs->widget(i);
+        taken = std::max({taken, page.sizeHint().width(), page.minimumWidth()});
+        most = std::max(most, wanted.value(&page));
+    }
+    return std::max(most - taken, 0);
+}
+
+/// The width that a page likes to have. wanted knows that of the pages that are inside.
+int wantedWidth(const QWidget &page, const QHash<const QWidget *, int> &wanted)
+{
+    const auto *const layout = page.layout();
+    int width = page.minimumWidth();
+    for (int i = 0; i < layout->count(); ++i) {
+        const QLayoutItem &item = *layout->itemAt(i);
+        if (item.isEmpty())
+            continue;
+        // Where an item begins does not depend on the page's width.
+        const QRect place = item.geometry();
+        const int left = page.isRightToLeft() ? page.width() - 1 - place.right() : place.left();
+        const int most = std::min(item.sizeHint().width(), item.maximumSize().width());
+        const int likes = std::max(most, item.minimumSize().width()) + roomForPages(item, wanted);
+        width = std::max(width, left + likes + layout->contentsMargins().right());
+    }
+    return width;
+}
+
 } // namespace
 
 PanelExtent::PanelExtent(std::shared_ptr<const PanelRows> rows, QWidget *panel)
@@ -69,6 +104,16 @@ void PanelExtent::settle()
     // Pages need what the pages inside of them need.
     for (auto page = pages.crbegin(); page != pages.crend(); ++page)
         fit(**page);
+}
+
+QSize PanelExtent::wantedSize() const
+{
+    QHash<const QWidget *, int> widths;
+    const QVector<QWidget *> pages = m_rows->pages();
+    for (auto page = pages.crbegin(); page != pages.crend(); ++page)
+        widths.insert(*page, wantedWidth(**page, widths));
+    const auto *const panel = qobject_cast<const QWidget *>(parent());
+    return {widths.value(panel), panel->minimumHeight()};
 }
 
 bool PanelExtent::event(QEvent *event)

@@ -28,6 +28,9 @@ public:
     /// the panel are where they belong.
     void settle();
 
+    /// The panel's size with fields as wide as they like to be, after settle().
+    QSize wantedSize() const;
+
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -1,6 +1,7 @@
 #include "host/PropertyPanelView.h"
 
 #include "host/DescriptionLine_p.h"
+#include "host/LabelElider_p.h"
 #include "host/LabelSplitter_p.h"
 #include "host/NumberFieldWidths_p.h"
 #include "host/PanelExtent_p.h"
@@ -10,6 +11,8 @@
 #include "host/RowHelp_p.h"
 #include "host/RuleEngine.h"
 #include "host/SearchOrigin_p.h"
+#include "host/SplitterHandle_p.h"
+#include "host/TextsAsWritten.h"
 #include "host/ViewPanel_p.h"
 #include "host/ViewSearch_p.h"
 #include "host/WheelGuard.h"
@@ -18,6 +21,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace Tessark::PropertyHost {
@@ -114,11 +118,33 @@ void PropertyPanelView::setGroupOpen(const Property *group, bool open)
     m_panel->folding().update();
 }
 
+QSize PropertyPanelView::contentsSize() const
+{
+    if (m_extent)
+        m_extent->settle();
+    QSize size = m_extent ? m_extent->wantedSize() : QSize(0, 0);
+    for (int i = 0; i < layout()->count(); ++i) {
+        const QLayoutItem &item = *layout()->itemAt(i);
+        if (item.isEmpty() || item.widget() == m_area)
+            continue;
+        size.setWidth(std::max(size.width(), item.minimumSize().width()));
+        size.rheight() += item.sizeHint().height();
+    }
+    return size;
+}
+
+void PropertyPanelView::setTextsAsWritten(bool asWritten)
+{
+    m_areTextsAsWritten = asWritten;
+}
+
 void PropertyPanelView::setSplitterMovable(bool movable)
 {
     m_isSplitterMovable = movable;
     if (m_splitter)
         m_splitter->setMovable(movable);
+    if (m_splitterHandle)
+        m_splitterHandle->placeLater();
 }
 
 int PropertyPanelView::labelWidth() const
@@ -278,6 +304,8 @@ void PropertyPanelView::install(std::unique_ptr<ViewPanel> panel, std::unique_pt
 {
     const QPointer<PropertyPanelView> self(this);
     const int installation = m_installations;
+    if (m_areTextsAsWritten)
+        showTextsAsWritten(*panel);
     panel->updateUI();
     if (self && m_installations == installation && rules)
         rules->attach(panel.get());
@@ -310,9 +338,12 @@ void PropertyPanelView::replacePanel(ViewPanel *panel)
     m_splitter = new LabelSplitter(panel->rows(), panel);
     m_splitter->setLabelWidth(m_state->labelWidth);
     m_splitter->setMovable(m_isSplitterMovable);
+    new LabelElider(*panel->rows(), panel);
     m_help = std::make_unique<RowHelp>(panel->rows());
     m_wheelGuard->watch(panel);
     m_area->setWidget(panel);
+    delete m_splitterHandle; // so that Tab reaches the new one behind the rows
+    m_splitterHandle = new SplitterHandle(m_splitter, m_extent, panel, m_area->viewport());
     m_description->follow(panel->rows(), panel);
 }
 

@@ -29,6 +29,7 @@ class PanelExtent;
 class PropertyList;
 class RowHelp;
 class RuleEngine;
+class SplitterHandle;
 class ViewPanel;
 class ViewSearch;
 class WheelGuard;
@@ -61,6 +62,7 @@ class TESSARK_PROPERTYHOST_EXPORT PropertyPanelView : public QWidget
     Q_OBJECT
     Q_PROPERTY(bool splitterMovable READ isSplitterMovable WRITE setSplitterMovable)
     Q_PROPERTY(bool wheelGuarded READ isWheelGuarded WRITE setWheelGuarded)
+    Q_PROPERTY(bool textsAsWritten READ areTextsAsWritten WRITE setTextsAsWritten)
     Q_PROPERTY(bool descriptionVisible READ isDescriptionVisible WRITE setDescriptionVisible)
     Q_PROPERTY(bool searchEnabled READ isSearchEnabled WRITE setSearchEnabled)
 
@@ -96,13 +98,24 @@ public:
     bool isGroupOpen(const PropertyUI::Property *group) const;
     void setGroupOpen(const PropertyUI::Property *group, bool open);
 
-    /// Whether the user can drag the line between labels and fields, in the gap between the two; not
-    /// at first. A double click there makes the width automatic again.
+    /// The size of the view at which no row has to be scrolled to and fields are as wide as they like
+    /// to be: for a window that opens.
+    QSize contentsSize() const;
+
+    /// Whether panels show labels and static texts as they are written, see showTextsAsWritten(); not
+    /// at first. It is about panels of later setProperties().
+    bool areTextsAsWritten() const { return m_areTextsAsWritten; }
+    void setTextsAsWritten(bool asWritten);
+
+    /// Whether the user can move the line between labels and fields; not at first. It is dragged in
+    /// the gap between the two, where a double click makes the width automatic again. Tab reaches it
+    /// behind the rows: Left and Right, Home and End move it, Return makes the width automatic.
     bool isSplitterMovable() const { return m_isSplitterMovable; }
     void setSplitterMovable(bool movable);
 
     /// The width of the labels in pixels, on all pages; -1, as at first, where it is automatic: that
-    /// of the widest label on each page. Labels that are wider are cut off.
+    /// of the widest label on each page. Labels that are wider end in an ellipsis, and their tool tips
+    /// tell the whole text.
     int labelWidth() const;
     void setLabelWidth(int width);
 
@@ -184,11 +197,13 @@ private:
     QPointer<NumberFieldWidths> m_numberFields; // owned by the panel, as are the next two
     QPointer<PanelExtent> m_extent;
     QPointer<LabelSplitter> m_splitter;
+    QPointer<SplitterHandle> m_splitterHandle; // owned by m_area
     std::unique_ptr<RowHelp> m_help;
     std::unique_ptr<RuleEngine> m_rules;
     std::unique_ptr<PanelState> m_state; // of the panels so far, or as it was restored
     int m_installations = 0;             // begun so far: the last one wins
     bool m_isSplitterMovable = false;
+    bool m_areTextsAsWritten = false;
     bool m_isPlacePending = false; // until the rows are where they belong
 };
 

@@ -1,5 +1,6 @@
 #include <host/HostHints.h>
 #include <host/PropertyList.h>
+#include <host/PropertyPanelView.h>
 #include <host/PropertyStore.h>
 #include <host/ValueJson.h>
 #include <property/PropertyUI.h>
@@ -36,6 +37,7 @@
 using namespace Tessark::PropertyPanel;
 using namespace Tessark::PropertyUI;
 using Tessark::PropertyHost::PropertyList;
+using Tessark::PropertyHost::PropertyPanelView;
 using Tessark::PropertyHost::PropertyStore;
 using Tessark::PropertyHost::valueFromJson;
 
@@ -53,6 +55,9 @@ private Q_SLOTS:
     void saveTakesTheTextBeingTyped();
     void valueThatItsEditorCannotShowStays();
     void saveWritesTheSettingsToo();
+    void arrangementComesBack();
+    void cancelKeepsTheArrangement();
+    void viewIsAsAProgramWants();
     void failedSettingsKeepTheWindow();
     void failedSaveShowsWhyAndKeepsEverything();
     void saveAfterAFailureSucceeds();
@@ -280,7 +285,75 @@ void tst_PanelWindow::saveWritesTheSettingsToo()
     QCOMPARE(saved().value(QStringLiteral("title")), QJsonValue(QStringLiteral("typed")));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().trimmed(), QByteArray("[General]\nloop=false\nnotes=\ntitle=typed"));
+    // How the panel is arranged goes there too.
+    const QByteArray content = file.readAll();
+    QVERIFY2(content.startsWith("[General]\nloop=false\nnotes=\ntitle=typed\n\n[property-panel]\n"),
+             content.constData());
+}
+
+void tst_PanelWindow::arrangementComesBack()
+{
+    m_list->group(QStringLiteral("Group"),
+                  [this] { m_list->string(QStringLiteral("inner"), QStringLiteral("Inner")); });
+    m_store->reset(*m_list);
+    const QString path = m_folder->filePath(QStringLiteral("program.ini"));
+    show();
+    m_window->setSettingsPath(path);
+    click(m_window->findChildren<QCheckBox *>().constLast());
+    m_window->findChild<PropertyPanelView *>()->setLabelWidth(50);
+    notes()->setFocus();
+    m_window->save();
+
+    show();
+    m_window->setSettingsPath(path);
+
+    auto *const view = m_window->findChild<PropertyPanelView *>();
+    QVERIFY(!view->isGroupOpen(m_list->properties().at(3)));
+    QCOMPARE(view->labelWidth(), 50);
+    QVERIFY(notes()->hasFocus());
+    QVERIFY(!m_window->hasUnsavedChanges());
+    QVERIFY(!toolButton("Undo")->isEnabled());
+}
+
+/// Of a file that has one; otherwise Cancel writes nothing.
+void tst_PanelWindow::cancelKeepsTheArrangement()
+{
+    const QString path = m_folder->filePath(QStringLiteral("program.ini"));
+    show();
+    m_window->setSettingsPath(path);
+    m_window->findChild<PropertyPanelView *>()->setLabelWidth(50);
+    click(button("Cancel"));
+    QVERIFY(!QFile::exists(path));
+    show();
+    m_window->setSettingsPath(path);
+    m_window->save();
+
+    show();
+    m_window->setSettingsPath(path);
+    m_window->findChild<PropertyPanelView *>()->setLabelWidth(70);
+    click(button("Cancel"));
+
+    show();
+    m_window->setSettingsPath(path);
+    QCOMPARE(m_window->findChild<PropertyPanelView *>()->labelWidth(), 70);
+}
+
+void tst_PanelWindow::viewIsAsAProgramWants()
+{
+    m_list->string(QStringLiteral("helped"), QString()).help(QStringLiteral("What it is for."));
+    m_store->reset(*m_list);
+    show();
+
+    auto *view = m_window->findChild<PropertyPanelView *>();
+    QVERIFY(view->isWheelGuarded());
+    QVERIFY(view->isSplitterMovable());
+    QVERIFY(view->areTextsAsWritten());
+    QVERIFY(view->isDescriptionVisible());
+
+    m_list->properties().constLast()->setHint(Tessark::PropertyHost::kHostHintHelp, QVariant());
+    show();
+    view = m_window->findChild<PropertyPanelView *>();
+    QVERIFY(!view->isDescriptionVisible()); // there is nothing to tell
 }
 
 void tst_PanelWindow::failedSettingsKeepTheWindow()

@@ -1,5 +1,6 @@
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <property/PropertyVocabulary.h>
 #include <tools/property-panel/SettingsFile.h>
 
 #include <QDir>
@@ -31,6 +32,11 @@ private Q_SLOTS:
     void unwritableFileIsToldAndStays();
     void nothingElseIsLeft();
     void missingRoomForTheCopyIsTold();
+    void arrangementComesBack();
+    void arrangementsKeyIsNoRows_data();
+    void arrangementsKeyIsNoRows();
+    void whatSomebodyElseHasUnderTheKeyStays();
+    void arrangementAloneIsReplaced();
 
 private:
     QString path() const { return m_folder->filePath(QStringLiteral("program.ini")); }
@@ -208,6 +214,85 @@ void tst_SettingsFile::missingRoomForTheCopyIsTold()
     QVERIFY2(error.startsWith(QStringLiteral("Cannot write %1: ").arg(path())), qPrintable(error));
     QCOMPARE(problems.size(), 1);
     QCOMPARE(content(), QByteArray("count=4\n"));
+}
+
+void tst_SettingsFile::arrangementComesBack()
+{
+    QCOMPARE(readArrangement(path(), m_list), QByteArray());
+    QCOMPARE(readArrangement(QString(), m_list), QByteArray());
+    const QByteArray arrangement = R"({"groups":{"l\u00e4nger; \"1\", 2":[false]},"version":1})";
+
+    QCOMPARE(writeSettingsFile(path(), m_store, m_list, arrangement), QString());
+
+    QCOMPARE(readArrangement(path(), m_list), arrangement);
+    QCOMPARE(read(), QStringList());
+    QCOMPARE(value(1), QVariant(3));
+    // Who does not know the arrangement keeps it.
+    QCOMPARE(writeSettingsFile(path(), m_store, m_list), QString());
+    QCOMPARE(readArrangement(path(), m_list), arrangement);
+}
+
+void tst_SettingsFile::arrangementsKeyIsNoRows_data()
+{
+    QTest::addColumn<QStringList>("keys");
+
+    QTest::newRow("of a row") << QStringList{QStringLiteral("property-panel/arrangement")};
+    QTest::newRow("of two rows") << QStringList{QStringLiteral("property-panel/arrangement2"),
+                                                QStringLiteral("property-panel/arrangement")};
+    QTest::newRow("written in other ways")
+        << QStringList{QStringLiteral("/property-panel//arrangement/"),
+                       QStringLiteral("Property-Panel/Arrangement2")};
+}
+
+void tst_SettingsFile::arrangementsKeyIsNoRows()
+{
+    QFETCH(QStringList, keys);
+    const QByteArray value = R"({"version":1})";
+    for (const QString &key : std::as_const(keys)) {
+        m_list.string(key.toLower(), QString())
+            .hint(Tessark::PropertyUI::kPropertyHintPreferencesKey, key)
+            .defaultValue(QString::fromUtf8(value)); // as if it were an arrangement
+    }
+    m_store.reset(m_list);
+
+    const QByteArray arrangement = R"({"tabs":{},"version":1})";
+    QCOMPARE(writeSettingsFile(path(), m_store, m_list, arrangement), QString());
+
+    QCOMPARE(readArrangement(path(), m_list), arrangement);
+    QCOMPARE(read(), QStringList());
+    for (int row = 2; row < m_list.properties().size(); ++row)
+        QCOMPARE(this->value(row), QVariant(QString::fromUtf8(value)));
+}
+
+void tst_SettingsFile::whatSomebodyElseHasUnderTheKeyStays()
+{
+    write("[property-panel]\narrangement=flowers\n");
+    const QByteArray arrangement = R"({"version":1})";
+
+    QCOMPARE(readArrangement(path(), m_list), QByteArray());
+    QCOMPARE(writeSettingsFile(path(), m_store, m_list, arrangement), QString());
+
+    QCOMPARE(readArrangement(path(), m_list), arrangement);
+    QVERIFY2(content().contains("arrangement=flowers\n"), content().constData());
+}
+
+void tst_SettingsFile::arrangementAloneIsReplaced()
+{
+    const QByteArray before = R"({"version":1})";
+    const QByteArray after = R"({"tabs":{},"version":1})";
+    QCOMPARE(replaceArrangement(path(), m_list, after), QString());
+    QVERIFY(!QFile::exists(path()));
+    write("; a comment\ncount=4\n");
+    QCOMPARE(replaceArrangement(path(), m_list, after), QString());
+    QCOMPARE(content(), QByteArray("; a comment\ncount=4\n"));
+
+    QCOMPARE(writeSettingsFile(path(), m_store, m_list, before), QString());
+    set(1, 5); // which is not saved
+    QCOMPARE(replaceArrangement(path(), m_list, after), QString());
+
+    QCOMPARE(readArrangement(path(), m_list), after);
+    QCOMPARE(read(), QStringList());
+    QCOMPARE(value(1), QVariant(3));
 }
 
 QTEST_GUILESS_MAIN(tst_SettingsFile)

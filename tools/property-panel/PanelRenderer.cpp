@@ -1,13 +1,11 @@
 #include "PanelRenderer.h"
 
-#include "PanelWidth.h"
 #include "PictureNames.h"
 #include "TextureChoices.h"
 
 #include <host/PropertyList.h>
+#include <host/PropertyPanelView.h>
 #include <host/PropertyStore.h>
-#include <host/RuleEngine.h>
-#include <host/TextsAsWritten.h>
 #include <property/PropertyUI.h>
 
 #include <QCoreApplication>
@@ -80,26 +78,25 @@ QVector<Step> turnTo(const QVector<Step> &pages)
     return before;
 }
 
-std::unique_ptr<QWidget> makeSheet(PropertyUI::PropertyEditorPanel *panel)
+std::unique_ptr<QWidget> makeSheet(PropertyHost::PropertyPanelView *view)
 {
     auto sheet = std::make_unique<QWidget>();
     auto *const layout = new QVBoxLayout(sheet.get());
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->addWidget(panel);
+    layout->addWidget(view);
     // Shown, so that everything is polished and laid out, but not on the screen. Without constraints
     // there are none to tell a platform that cannot take them.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     sheet->setAttribute(Qt::WA_DontShowOnScreen);
     sheet->show();
-    widenToContents(*panel);
     return sheet;
 }
 
 /// The size of the sheet for the size that was asked for, if any.
-QSize pictureSize(const QWidget &sheet, const QSize &size)
+QSize pictureSize(const PropertyHost::PropertyPanelView &view, const QSize &size)
 {
-    return size.isValid() ? size.expandedTo(sheet.minimumSizeHint())
-                          : sheet.sizeHint().expandedTo(QSize(kSmallestUsualWidth, 0));
+    const QSize whole = view.contentsSize().grownBy(QMargins(kMargin, kMargin, kMargin, kMargin));
+    return whole.expandedTo(size.isValid() ? size : QSize(kSmallestUsualWidth, 0));
 }
 
 /// Why no picture of that size can be drawn; empty when it can.
@@ -143,24 +140,22 @@ RenderedPictures renderPanel(const PropertyHost::PropertyList &list,
                              PropertyHost::PropertyStore &store, const QString &path,
                              const QSize &size)
 {
-    PropertyHost::RuleEngine rules(list, &store);
-    auto *const panel =
-        new PropertyUI::PropertyEditorPanel(list.properties(), rules.delegate(), nullptr);
-    PropertyHost::showTextsAsWritten(*panel);
-    rules.attach(panel);
-    panel->updateUI();
-    const TextureChoices textures(*panel, &store, list.folder());
-    const std::unique_ptr<QWidget> sheet = makeSheet(panel); // takes the panel over
+    auto *const view = new PropertyHost::PropertyPanelView;
+    const std::unique_ptr<QWidget> sheet = makeSheet(view); // takes the view over
+    view->setTextsAsWritten(true);
+    view->setProperties(list, &store);
+    const PropertyUI::PropertyEditorPanel &panel = *view->panel();
+    const TextureChoices textures(panel, &store, list.folder());
 
     RenderedPictures pictures;
-    const QSize whole = pictureSize(*sheet, size);
+    const QSize whole = pictureSize(*view, size);
     pictures.error = obstacle(whole, sheet->devicePixelRatioF(), path);
     if (!pictures.error.isEmpty())
         return pictures;
     sheet->resize(whole);
     PictureNames names(path);
     addPicture(pictures, *sheet, path);
-    const QVector<QTabWidget *> groups = tabGroups(*panel);
+    const QVector<QTabWidget *> groups = tabGroups(panel);
     for (QTabWidget *tabs : groups) {
         const int shown = tabs->currentIndex();
         for (int page = 0; page < tabs->count(); ++page) {

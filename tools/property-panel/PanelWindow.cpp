@@ -1,16 +1,15 @@
 #include "PanelWindow.h"
 
-#include "GroupFolding.h"
-#include "PanelWidth.h"
 #include "SettingsFile.h"
 #include "StandardStreams.h"
 #include "TextureChoices.h"
 
 #include <core/KitColors.h>
+#include <host/HostHints.h>
 #include <host/PropertyList.h>
+#include <host/PropertyPanelView.h>
 #include <host/PropertyStore.h>
 #include <host/RuleEngine.h>
-#include <host/TextsAsWritten.h>
 #include <host/UndoDelegate.h>
 #include <host/UndoKeys.h>
 #include <host/ValueJson.h>
@@ -24,13 +23,13 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QStyle>
 #include <QTextDocument>
 #include <QToolButton>
 #include <QUndoStack>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Tessark::PropertyPanel {
 
@@ -74,17 +73,15 @@ PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::P
     , m_writer(writer)
     , m_stack(new QUndoStack(this))
     , m_delegate(new PropertyHost::UndoDelegate(store, m_stack, this))
-    , m_rules(new PropertyHost::RuleEngine(list, m_delegate, this))
-    , m_panel(makePanel())
-    , m_textures(new TextureChoices(*m_panel, m_rules->delegate(), list.folder(), this))
-    , m_pending(m_panel)
+    , m_view(makeView())
+    , m_textures(new TextureChoices(*panel(), m_view->rules()->delegate(), list.folder(), this))
+    , m_pending(panel())
 {
     setWindowTitle(list.title() + QStringLiteral("[*]"));
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->addLayout(makeToolRow());
-    m_scrollArea = makeScrollArea();
-    layout->addWidget(m_scrollArea, 1);
+    layout->addWidget(m_view, 1);
     m_error = makeErrorBanner();
     layout->addWidget(m_error);
     layout->addWidget(makeButtons());
@@ -92,7 +89,7 @@ PanelWindow::PanelWindow(const PropertyHost::PropertyList &list, PropertyHost::P
     auto *const keys = new PropertyHost::UndoKeys(m_stack, this);
     // What is only typed is the field's own, and so are all keys before the first step.
     keys->setFieldKeepsKeys([this] { return !m_pending.isEmpty() || m_stack->count() == 0; });
-    m_panel->setFocus();
+    panel()->setFocus();
 }
 
 PanelWindow::~PanelWindow()
@@ -101,7 +98,7 @@ PanelWindow::~PanelWindow()
     disconnect(qApp, nullptr, this, nullptr);
     disconnect(m_stack, nullptr, this, nullptr);
     // Before the delegate, which the panel may still call.
-    delete m_scrollArea->takeWidget();
+    delete m_view;
 }
 
 bool PanelWindow::hasUnsavedChanges() const
@@ -111,12 +108,16 @@ bool PanelWindow::hasUnsavedChanges() const
 
 QSize PanelWindow::sizeHint() const
 {
-    const QSize panel = m_panel->sizeHint().expandedTo(m_panel->minimumSize());
-    const QSize whole = layout()->sizeHint();
-    const int scrollBar = m_scrollArea->verticalScrollBar()->sizeHint().width();
-    const QSize wanted(panel.width() + scrollBar + 2 * kMargin,
-                       panel.height() + whole.height() - m_scrollArea->sizeHint().height());
-    return wanted.expandedTo(QSize(whole.width(), 0))
+    const QSize contents = m_view->contentsSize();
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    int height = contents.height() + 2 * kMargin;
+    for (int i = 0; i < layout()->count(); ++i) {
+        const QLayoutItem &item = *layout()->itemAt(i);
+        if (!item.isEmpty() && item.widget() != m_view)
+            height += item.sizeHint().height() + layout()->spacing();
+    }
+    return QSize(contents.width() + scrollBar + 2 * kMargin, height)
+        .expandedTo(QSize(layout()->minimumSize().width(), 0))
         .expandedTo(kSmallestUsualSize)
         .boundedTo(screen()->availableSize() * kLargestShareOfScreen);
 }
@@ -124,11 +125,12 @@ QSize PanelWindow::sizeHint() const
 void PanelWindow::setSettingsPath(const QString &path)
 {
     m_settingsPath = path;
+    m_view->restoreState(readArrangement(path, m_list));
 }
 
 PropertyUI::PropertyEditorPanel *PanelWindow::panel() const
 {
-    return m_panel;
+    return m_view->panel();
 }
 
 void PanelWindow::save()
@@ -199,16 +201,18 @@ void PanelWindow::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-PropertyUI::PropertyEditorPanel *PanelWindow::makePanel()
+PropertyHost::PropertyPanelView *PanelWindow::makeView()
 {
-    auto *const panel =
-        new PropertyUI::PropertyEditorPanel(m_list.properties(), m_rules->delegate(), nullptr);
-    PropertyHost::showTextsAsWritten(*panel);
-    foldGroupsOnTabPages(*panel);
-    panel->updateUI();
-    widenToContents(*panel); // with the rows that rules hide at first
-    m_rules->attach(panel);
-    return panel;
+    auto *const view = new PropertyHost::PropertyPanelView;
+    view->setTextsAsWritten(true);
+    view->setSplitterMovable(true);
+    view->setProperties(m_list, m_delegate);
+    const auto properties = m_list.properties();
+    view->setDescriptionVisible(
+        std::any_of(properties.cbegin(), properties.cend(), [](PropertyUI::Property *property) {
+            return !property->hint(PropertyHost::kHostHintHelp).toString().isEmpty();
+        }));
+    return view;
 }
 
 QBoxLayout *PanelWindow::makeToolRow()
@@ -244,16 +248,6 @@ QDialogButtonBox *PanelWindow::makeButtons()
     return buttons;
 }
 
-QScrollArea *PanelWindow::makeScrollArea()
-{
-    auto *const area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(m_panel);
-    area->setAccessibleName(QStringLiteral("Panel")); // it scrolls by keys
-    return area;
-}
-
 QAction *PanelWindow::addUndoAction(QAction *action, const QString &shortText, const QString &icon)
 {
     // The window commits what is being typed before the stack is asked.
@@ -282,7 +276,7 @@ bool PanelWindow::hasChangedValues() const
 
 void PanelWindow::followStack()
 {
-    m_delegate->attach(m_panel); // folds and opens groups; refresh() shows the values
+    m_delegate->attach(panel()); // folds and opens groups; refresh() shows the values
     connect(m_delegate, &PropertyHost::UndoDelegate::valueRestored, this,
             [this] { m_panelIsStale = true; });
     // Once for a step of many values.
@@ -293,7 +287,7 @@ void PanelWindow::followStack()
     connect(m_stack, &QUndoStack::indexChanged, this,
             [this] { setWindowModified(hasChangedValues()); });
     connect(m_textures, &TextureChoices::filesDropped, this, &PanelWindow::showProblems);
-    connect(m_rules, &PropertyHost::RuleEngine::rangeChanged, this,
+    connect(m_view->rules(), &PropertyHost::RuleEngine::rangeChanged, this,
             [this](PropertyUI::Property *property) { m_pending.noteShownValue(property); });
     connect(qApp, &QApplication::focusChanged, this, [this] { m_pending.commit(); });
 }
@@ -301,7 +295,7 @@ void PanelWindow::followStack()
 void PanelWindow::refresh()
 {
     m_panelIsStale = false;
-    m_panel->updateUI();
+    m_view->updateUI();
     m_textures->refresh();
     m_pending.noteShownValues();
 }
@@ -322,7 +316,7 @@ void PanelWindow::writeValues()
     if (error.isEmpty()) {
         m_writer.noteContent(); // not to be taken for another program's, should the settings fail
         if (!m_settingsPath.isEmpty())
-            error = writeSettingsFile(m_settingsPath, *m_store, m_list);
+            error = writeSettingsFile(m_settingsPath, *m_store, m_list, m_view->saveState());
     }
     if (error.isEmpty())
         finish(ExitStatus::Saved);
@@ -389,6 +383,11 @@ void PanelWindow::finish(ExitStatus status)
     if (m_finished)
         return;
     m_finished = true;
+    if (status == ExitStatus::Cancelled && !m_settingsPath.isEmpty()) {
+        const QString error = replaceArrangement(m_settingsPath, m_list, m_view->saveState());
+        if (!error.isEmpty())
+            printError(QStringLiteral("property-panel: warning: ") + error);
+    }
     hide();
     Q_EMIT finished(status);
 }

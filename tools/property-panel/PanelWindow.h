@@ -14,7 +14,6 @@ class QAction;
 class QBoxLayout;
 class QDialogButtonBox;
 class QLabel;
-class QScrollArea;
 class QUndoStack;
 
 namespace Tessark::PropertyUI {
@@ -23,8 +22,8 @@ class PropertyEditorPanel;
 
 namespace Tessark::PropertyHost {
 class PropertyList;
+class PropertyPanelView;
 class PropertyStore;
-class RuleEngine;
 class UndoDelegate;
 } // namespace Tessark::PropertyHost
 
@@ -33,8 +32,8 @@ namespace Tessark::PropertyPanel {
 class TextureChoices;
 
 /**
- * The program's window: a panel that scrolls, undo and redo, and the buttons Save, Cancel and
- * "Reset All".
+ * The program's window: a PropertyPanelView, undo and redo, and the buttons Save, Cancel and
+ * "Reset All". A list with help texts has the line that tells them.
  *
  * Save writes the values and finishes; when that fails, the window stays and tells why. When another
  * program has written the file meanwhile, it asks before it replaces that. Cancel,
@@ -55,7 +54,9 @@ public:
     /// True when values were changed since the window started, and not changed back by undo.
     bool hasUnsavedChanges() const;
 
-    /// Save writes the values to this INI file as well, none of them by default.
+    /// Save writes the values to this INI file as well, none of them by default, and how the user has
+    /// arranged the panel. That is taken from the file now, and written when the user cancels, too,
+    /// where the file had it before.
     void setSettingsPath(const QString &path);
 
     /// The panel in the window, which owns it.
@@ -86,10 +87,9 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    PropertyUI::PropertyEditorPanel *makePanel();
+    PropertyHost::PropertyPanelView *makeView();
     QBoxLayout *makeToolRow();
     QDialogButtonBox *makeButtons();
-    QScrollArea *makeScrollArea();
     QAction *addUndoAction(QAction *action, const QString &shortText, const QString &icon);
 
     bool hasChangedValues() const;
@@ -110,10 +110,8 @@ private:
     QString m_settingsPath;
     QUndoStack *m_stack;
     PropertyHost::UndoDelegate *m_delegate;
-    PropertyHost::RuleEngine *m_rules; // in front of m_delegate
-    PropertyUI::PropertyEditorPanel *m_panel;
+    PropertyHost::PropertyPanelView *m_view;
     TextureChoices *m_textures;
-    QScrollArea *m_scrollArea = nullptr;
     QLabel *m_error = nullptr;
     QPointer<QMessageBox> m_question;
     PendingEdits m_pending;

@@ -5,13 +5,17 @@
 #include <host/InputFile.h>
 #include <host/PropertyList.h>
 #include <host/PropertyStore.h>
+#include <property/Property.h>
+#include <property/PropertyVocabulary.h>
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -91,6 +95,58 @@ private:
     QString m_error;
 };
 
+/// Keys that QSettings takes for the same, somewhere at least, look the same.
+QString normalizedKey(QString key)
+{
+    key.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return key.split(QLatin1Char('/'), Qt::SkipEmptyParts).join(QLatin1Char('/')).toLower();
+}
+
+bool isKeyOfARow(const PropertyHost::PropertyList &list, const QString &key)
+{
+    const auto properties = list.properties();
+    return std::any_of(
+        properties.cbegin(), properties.cend(), [&key](const PropertyUI::Property *property) {
+            const QString own = property->hint(PropertyUI::kPropertyHintPreferencesKey).toString();
+            return normalizedKey(own.isEmpty() ? property->name : own) == key;
+        });
+}
+
+bool isArrangement(const QVariant &setting)
+{
+    return QJsonDocument::fromJson(setting.toString().toUtf8()).isObject();
+}
+
+QString arrangementKey(const QSettings &settings, const PropertyHost::PropertyList &list)
+{
+    const QString base = QStringLiteral("property-panel/arrangement");
+    QString key = base;
+    for (int number = 2;
+         isKeyOfARow(list, key) || (settings.contains(key) && !isArrangement(settings.value(key)));
+         ++number)
+        key = base + QString::number(number);
+    return key;
+}
+
+QByteArray arrangementIn(const QSettings &settings, const PropertyHost::PropertyList &list)
+{
+    return settings.value(arrangementKey(settings, list)).toString().toUtf8();
+}
+
+void setArrangement(QSettings &settings, const PropertyHost::PropertyList &list,
+                    const QByteArray &arrangement)
+{
+    settings.setValue(arrangementKey(settings, list), QString::fromUtf8(arrangement));
+}
+
+/// Replaces the file by the copy; gives a sentence that says why it is impossible.
+QString replaceByCopy(const QString &path, WorkingCopy &copy)
+{
+    const QByteArray content = copy.error().isEmpty() ? copy.content() : QByteArray();
+    const QString error = copy.error().isEmpty() ? replaceFile(path, content) : copy.error();
+    return error.isEmpty() ? QString() : tr("Cannot write %1: %2").arg(path, error);
+}
+
 } // namespace
 
 QVector<Problem> readSettingsFile(const QString &path, PropertyHost::PropertyStore &store,
@@ -105,16 +161,35 @@ QVector<Problem> readSettingsFile(const QString &path, PropertyHost::PropertySto
 }
 
 QString writeSettingsFile(const QString &path, const PropertyHost::PropertyStore &store,
-                          const PropertyHost::PropertyList &list)
+                          const PropertyHost::PropertyList &list, const QByteArray &arrangement)
 {
     WorkingCopy copy(path);
-    QByteArray content;
     if (copy.error().isEmpty()) {
         store.writeSettings(copy.settings(), list);
-        content = copy.content();
+        if (!arrangement.isEmpty())
+            setArrangement(copy.settings(), list, arrangement);
     }
-    const QString error = copy.error().isEmpty() ? replaceFile(path, content) : copy.error();
-    return error.isEmpty() ? QString() : tr("Cannot write %1: %2").arg(path, error);
+    return replaceByCopy(path, copy);
+}
+
+QByteArray readArrangement(const QString &path, const PropertyHost::PropertyList &list)
+{
+    if (path.isEmpty())
+        return QByteArray();
+    WorkingCopy copy(path);
+    return copy.error().isEmpty() ? arrangementIn(copy.settings(), list) : QByteArray();
+}
+
+QString replaceArrangement(const QString &path, const PropertyHost::PropertyList &list,
+                           const QByteArray &arrangement)
+{
+    WorkingCopy copy(path);
+    const QByteArray before =
+        copy.error().isEmpty() ? arrangementIn(copy.settings(), list) : QByteArray();
+    if (before.isEmpty() || before == arrangement)
+        return QString();
+    setArrangement(copy.settings(), list, arrangement);
+    return replaceByCopy(path, copy);
 }
 
 } // namespace Tessark::PropertyPanel

@@ -20,6 +20,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QWindow>
 
 #include <functional>
 #include <memory>
@@ -270,8 +271,7 @@ void tst_PanelSearch::openByKey()
     QWidget *const focused = m_view->focusWidget() ? m_view->focusWidget() : m_view.get();
     if (!focused->hasFocus() && m_view->panel())
         m_view->panel()->setFocus();
-    QTest::keyClick(m_view->window()->windowHandle(), Qt::Key_F, Qt::ControlModifier);
-    settle();
+    press(Qt::Key_F, Qt::ControlModifier);
 }
 
 void tst_PanelSearch::type(const char *text)
@@ -282,7 +282,10 @@ void tst_PanelSearch::type(const char *text)
 
 void tst_PanelSearch::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    QTest::keyClick(m_view->window()->windowHandle(), key, modifiers);
+    const QPointer<QWindow> window = m_view->windowHandle();
+    QTest::keyPress(window, key, modifiers);
+    if (window) // the key may have deleted it
+        QTest::keyRelease(window, key, modifiers);
     settle();
 }
 

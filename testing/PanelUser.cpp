@@ -73,9 +73,9 @@ QWidget *writtenPart(QWidget *field)
 }
 
 /// Whether keys of the window go to field, be the window the active one or not.
-bool isFocused(const QWidget *field)
+bool isFocused(const QPointer<QWidget> &field)
 {
-    const QWidget *const focus = field->window()->focusWidget();
+    const QWidget *const focus = field ? field->window()->focusWidget() : nullptr;
     return focus && (focus == field || field->isAncestorOf(focus));
 }
 
@@ -269,8 +269,10 @@ QString PanelUser::type(const QString &name, const QString &text, PanelDriver::E
     const bool hasLines = qobject_cast<QPlainTextEdit *>(field);
     const QPointer<QWindow> window = field->window()->windowHandle();
     click(written, at);
-    if (!field || !isFocused(field))
-        return field ? QStringLiteral("It does not take the focus") : lost(target);
+    if (!isFocused(field)) {
+        QString loss = lost(target);
+        return loss.isEmpty() ? QStringLiteral("It does not take the focus") : loss;
+    }
     selectAllByKey(window);
     if (text.isEmpty())
         pressKey(window, Qt::Key_Delete);
@@ -329,13 +331,14 @@ QString PanelUser::check(const QString &name, bool checked) const
     const QPointer<QAbstractButton> box = target.parts().button(target.part);
     if (!box || !box->isCheckable())
         return noPart(target, QStringLiteral("box"));
-    if (box->isChecked() == checked)
+    const auto isDone = [&] { return !box || box->isChecked() == checked; };
+    if (isDone())
         return QString();
     QString obstacle = clickOn(box);
     if (!obstacle.isEmpty())
         return obstacle;
     QString loss = lost(target);
-    if (!loss.isEmpty() || !box || box->isChecked() == checked)
+    if (!loss.isEmpty() || isDone())
         return loss;
     return QStringLiteral("It has gone back afterwards");
 }

@@ -54,7 +54,7 @@ QString chooseInBox(QComboBox *comboBox, const QString &text)
             choices.append(comboBox->itemText(i));
         return noChoice(text, choices);
     }
-    const QString obstacle = reach(comboBox);
+    QString obstacle = reach(comboBox);
     if (!obstacle.isEmpty())
         return obstacle;
     const QPointer<QComboBox> box(comboBox);
@@ -84,7 +84,7 @@ QString chooseButton(const QList<QRadioButton *> &buttons, const QString &text)
             choices.append(button->text());
         return noChoice(text, choices);
     }
-    const QString obstacle = reach(*found);
+    QString obstacle = reach(*found);
     if (!obstacle.isEmpty())
         return obstacle;
     const QPointer<QRadioButton> button(*found);
@@ -103,7 +103,7 @@ QString chooseItem(QListWidget *listWidget, const QString &text)
             choices.append(listWidget->item(i)->text());
         return noChoice(text, choices);
     }
-    const QString obstacle = reach(listWidget->viewport());
+    QString obstacle = reach(listWidget->viewport());
     if (!obstacle.isEmpty())
         return obstacle;
     const QPointer<QListWidget> list(listWidget);

@@ -179,7 +179,7 @@ QString expectText(PanelDriver &driver, ScriptLine &line)
     line.takeOneOf(words("="));
     const QString expected = line.takeRest(kText);
     QString found;
-    const QString problem = whenDone(driver, line, [&] {
+    QString problem = whenDone(driver, line, [&] {
         found = driver.text(row);
         return driver.error().isEmpty();
     });
@@ -193,7 +193,7 @@ QString expectValue(PanelDriver &driver, ScriptLine &line, const QString &row)
 {
     const QString expected = line.takeRest(QStringLiteral("a value"));
     QVariant found;
-    const QString problem = whenDone(driver, line, [&] {
+    QString problem = whenDone(driver, line, [&] {
         found = driver.value(row);
         return driver.error().isEmpty();
     });
@@ -214,7 +214,7 @@ bool isInState(PanelDriver &driver, const QString &row, const QString &state)
 QString expectState(PanelDriver &driver, ScriptLine &line, const QString &row, const QString &state)
 {
     bool isMet = false;
-    const QString problem = whenDone(driver, line, [&] {
+    QString problem = whenDone(driver, line, [&] {
         isMet = isInState(driver, row, state);
         return driver.error().isEmpty();
     });

@@ -6,7 +6,7 @@ namespace Tessark::PropertyTest {
 
 class PanelDriver;
 
-/// Does a line of a script with the driver. An empty text, or why that was not possible.
-QString performLine(PanelDriver &driver, const QString &line);
+/// Does what a line of a script says with the driver. An empty text, or why that was not possible.
+QString performLine(PanelDriver &driver, const QString &text);
 
 } // namespace Tessark::PropertyTest

@@ -43,7 +43,7 @@ QString noPart(const DriverTarget &target, const QString &kind)
 
 QString clickOn(QAbstractButton *button)
 {
-    const QString obstacle = reach(button);
+    QString obstacle = reach(button);
     if (obstacle.isEmpty())
         click(button, clickPoint(button));
     return obstacle;
@@ -52,7 +52,7 @@ QString clickOn(QAbstractButton *button)
 QString clickTab(QTabWidget *tabs, const QWidget *page)
 {
     const QPoint at = tabs->tabBar()->tabRect(tabs->indexOf(const_cast<QWidget *>(page))).center();
-    const QString obstacle = reach(tabs->tabBar(), at);
+    QString obstacle = reach(tabs->tabBar(), at);
     if (obstacle.isEmpty())
         click(tabs->tabBar(), at);
     return obstacle;
@@ -73,9 +73,9 @@ QWidget *writtenPart(QWidget *field)
 }
 
 /// Whether keys of the window go to field, be the window the active one or not.
-bool isFocused(const QWidget *field)
+bool isFocused(const QPointer<QWidget> &field)
 {
-    const QWidget *const focus = field->window()->focusWidget();
+    const QWidget *const focus = field ? field->window()->focusWidget() : nullptr;
     return focus && (focus == field || field->isAncestorOf(focus));
 }
 
@@ -155,13 +155,13 @@ QString PanelUser::reveal(Find find, DriverTarget *target) const
 {
     for (int clicks = 0;; ++clicks) {
         settle();
-        const QString problem = find();
+        QString problem = find();
         if (!problem.isEmpty())
             return problem;
         const Fold *const closed = target->row.closedFold();
         if (!closed || !isRevealing || clicks > target->row.folds.size())
             return QString();
-        const QString obstacle = unfold(Fold(*closed));
+        QString obstacle = unfold(Fold(*closed));
         if (!obstacle.isEmpty())
             return QStringLiteral("What it lies in cannot be opened: %1").arg(obstacle);
     }
@@ -180,11 +180,11 @@ QString PanelUser::takeMarker(const QString &type, const QString &title, DriverT
 QString PanelUser::inRow(const QString &name, const std::function<QString(QWidget *)> &act) const
 {
     DriverTarget target;
-    const QString problem = takeRow(name, &target);
+    QString problem = takeRow(name, &target);
     if (!problem.isEmpty())
         return problem;
     const QString failure = act(target.row.field);
-    const QString loss = lost(target);
+    QString loss = lost(target);
     return loss.isEmpty() ? failure : loss;
 }
 
@@ -245,7 +245,7 @@ QString PanelUser::moveHandle(const DriverTarget &target, const NumberPart &part
         pointer.moveTo(start + track.handleAfter(moved) - track.handle());
     }
     pointer.release();
-    const QString problem = lost(target);
+    QString problem = lost(target);
     if (!problem.isEmpty() || !part.slider || part.slider->value() == position)
         return problem;
     return QStringLiteral("It is %1 afterwards")
@@ -255,7 +255,7 @@ QString PanelUser::moveHandle(const DriverTarget &target, const NumberPart &part
 QString PanelUser::type(const QString &name, const QString &text, PanelDriver::Ending ending) const
 {
     DriverTarget target;
-    const QString problem = takeRow(name, &target);
+    QString problem = takeRow(name, &target);
     if (!problem.isEmpty())
         return problem;
     const QPointer<QWidget> field = target.parts().textField(target.part);
@@ -263,14 +263,16 @@ QString PanelUser::type(const QString &name, const QString &text, PanelDriver::E
         return noPart(target, QStringLiteral("field"));
     QWidget *const written = writtenPart(field);
     const QPoint at = written->visibleRegion().boundingRect().center();
-    const QString obstacle = reach(written, at);
+    QString obstacle = reach(written, at);
     if (!obstacle.isEmpty())
         return obstacle;
     const bool hasLines = qobject_cast<QPlainTextEdit *>(field);
     const QPointer<QWindow> window = field->window()->windowHandle();
     click(written, at);
-    if (!field || !isFocused(field))
-        return field ? QStringLiteral("It does not take the focus") : lost(target);
+    if (!isFocused(field)) {
+        QString loss = lost(target);
+        return loss.isEmpty() ? QStringLiteral("It does not take the focus") : loss;
+    }
     selectAllByKey(window);
     if (text.isEmpty())
         pressKey(window, Qt::Key_Delete);
@@ -283,13 +285,13 @@ QString PanelUser::type(const QString &name, const QString &text, PanelDriver::E
 QString PanelUser::step(const QString &name, int steps) const
 {
     DriverTarget target;
-    const QString problem = takeRow(name, &target);
+    QString problem = takeRow(name, &target);
     if (!problem.isEmpty())
         return problem;
     const QPointer<QWidget> control = target.parts().control(target.part);
     if (!control)
         return noPart(target, QStringLiteral("control"));
-    const QString obstacle = reach(control);
+    QString obstacle = reach(control);
     if (!obstacle.isEmpty())
         return obstacle;
     // As Tab does it: a click would be an edit in some controls.
@@ -303,7 +305,7 @@ QString PanelUser::step(const QString &name, int steps) const
 QString PanelUser::wheel(const QString &name, int notches) const
 {
     DriverTarget target;
-    const QString problem = takeRow(name, &target);
+    QString problem = takeRow(name, &target);
     if (!problem.isEmpty())
         return problem;
     const RowParts parts = target.parts();
@@ -312,7 +314,7 @@ QString PanelUser::wheel(const QString &name, int notches) const
         part && part->slider ? part->slider.data() : parts.control(target.part);
     if (!control)
         return noPart(target, QStringLiteral("control"));
-    const QString obstacle = reach(control);
+    QString obstacle = reach(control);
     if (!obstacle.isEmpty())
         return obstacle;
     for (int i = 0; control && i < std::abs(notches); ++i)
@@ -323,19 +325,20 @@ QString PanelUser::wheel(const QString &name, int notches) const
 QString PanelUser::check(const QString &name, bool checked) const
 {
     DriverTarget target;
-    const QString problem = takeRow(name, &target);
+    QString problem = takeRow(name, &target);
     if (!problem.isEmpty())
         return problem;
     const QPointer<QAbstractButton> box = target.parts().button(target.part);
     if (!box || !box->isCheckable())
         return noPart(target, QStringLiteral("box"));
-    if (box->isChecked() == checked)
+    const auto isDone = [&] { return !box || box->isChecked() == checked; };
+    if (isDone())
         return QString();
-    const QString obstacle = clickOn(box);
+    QString obstacle = clickOn(box);
     if (!obstacle.isEmpty())
         return obstacle;
-    const QString loss = lost(target);
-    if (!loss.isEmpty() || !box || box->isChecked() == checked)
+    QString loss = lost(target);
+    if (!loss.isEmpty() || isDone())
         return loss;
     return QStringLiteral("It has gone back afterwards");
 }
@@ -343,39 +346,39 @@ QString PanelUser::check(const QString &name, bool checked) const
 QString PanelUser::press(const QString &name) const
 {
     DriverTarget target;
-    const QString problem = takeRow(name, &target);
+    QString problem = takeRow(name, &target);
     if (!problem.isEmpty())
         return problem;
     QAbstractButton *const button = target.parts().button(target.part);
     if (!button)
         return noPart(target, QStringLiteral("button"));
-    const QString obstacle = clickOn(button);
+    QString obstacle = clickOn(button);
     return obstacle.isEmpty() ? lost(target) : obstacle;
 }
 
 QString PanelUser::fold(const QString &title, bool open) const
 {
     DriverTarget target;
-    const QString problem = takeMarker(kPropertyTypeBeginGroup, title, &target);
+    QString problem = takeMarker(kPropertyTypeBeginGroup, title, &target);
     if (!problem.isEmpty())
         return problem;
     auto *const box = qobject_cast<QAbstractButton *>(target.row.field);
     if (!box || box->isChecked() == open)
         return box ? QString() : QStringLiteral("It has no button");
-    const QString obstacle = clickOn(box);
+    QString obstacle = clickOn(box);
     return obstacle.isEmpty() ? lost(target) : obstacle;
 }
 
 QString PanelUser::showTab(const QString &title) const
 {
     DriverTarget target;
-    const QString problem = takeMarker(kPropertyTypeTab, title, &target);
+    QString problem = takeMarker(kPropertyTypeTab, title, &target);
     if (!problem.isEmpty())
         return problem;
     const Fold page = target.row.page;
     if (!page.tabs || page.isOpen())
         return page.tabs ? QString() : QStringLiteral("It lies in no tabs");
-    const QString obstacle = clickTab(page.tabs, page.page);
+    QString obstacle = clickTab(page.tabs, page.page);
     return obstacle.isEmpty() ? lost(target) : obstacle;
 }
 

@@ -71,7 +71,7 @@ QString reach(QWidget *control, const QPoint &at)
 {
     if (!control->window()->isVisible())
         return QStringLiteral("Its window is not shown");
-    const QString front = obstacleInFront(control->window());
+    QString front = obstacleInFront(control->window());
     if (!front.isEmpty())
         return front;
     if (!control->isVisible())

@@ -78,8 +78,8 @@ QStringList transformNames(const Property &property)
 /// The numbers of a row, in the order of its fields; an empty name for one without parts.
 QStringList numberNames(const Property &property)
 {
-    const QStringList axes = {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"),
-                              QStringLiteral("w")};
+    QStringList axes = {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"),
+                        QStringLiteral("w")};
     const QString &type = property.type;
     if (type == kPropertyTypeVec2)
         return axes.mid(0, 2);

@@ -51,6 +51,7 @@ void PropertyPanelView::setProperties(const QVector<Property *> &properties,
 {
     const QPointer<PropertyPanelView> self(this);
     const int installation = ++m_installations;
+    m_rules.reset(); // the properties have the list's ranges again, which the new panel is to show
     auto panel = std::make_unique<ViewPanel>(properties, delegate, context);
     if (self && m_installations == installation)
         install(std::move(panel), nullptr);
@@ -61,6 +62,7 @@ void PropertyPanelView::setProperties(const PropertyList &list, IPropertyEditorD
 {
     const QPointer<PropertyPanelView> self(this);
     const int installation = ++m_installations;
+    m_rules.reset(); // the new ones read the ranges, which the old ones may have changed
     auto rules = std::make_unique<RuleEngine>(list, delegate);
     auto panel = std::make_unique<ViewPanel>(list.properties(), rules->delegate(), context);
     if (self && m_installations == installation)

@@ -52,6 +52,12 @@ QString textOf(const QVariant &value)
     return text;
 }
 
+QString lastOf(const QStringList &steps)
+{
+    constexpr int kShown = 8;
+    return steps.mid(std::max(0, int(steps.size()) - kShown)).join(QLatin1Char(' '));
+}
+
 /// The name of the row; a group has its label.
 QString nameOf(const Property &property)
 {
@@ -513,11 +519,9 @@ QString HostScene::stackDifference() const
         return {};
     return QStringLiteral("the stack stands at %1 of %2 and not at %3 of %4")
         .arg(index)
-        .arg(steps.mid(std::max<qsizetype>(0, steps.size() - 8)).join(QLatin1Char(' ')))
+        .arg(lastOf(steps))
         .arg(m_model.stepIndex())
-        .arg(m_model.steps()
-                 .mid(std::max<qsizetype>(0, m_model.steps().size() - 8))
-                 .join(QLatin1Char(' ')));
+        .arg(lastOf(m_model.steps()));
 }
 
 QString HostScene::panelDifference() const

@@ -145,10 +145,14 @@ void CommitPolicy::forget(const Property *property)
 void CommitPolicy::setValue(Property *property, const QVariant &value, ChangeFlags flags)
 {
     const QPointer<CommitPolicy> self(this);
-    if (!isPending(property))
+    if (!isPending(property)) {
+        // What refreshes the panel while the other edit passes must not take this one back.
+        const auto outer = std::exchange(m_arriving, Pending{property, value, flags});
         flush();
-    if (!self)
-        return;
+        if (!self)
+            return;
+        m_arriving = outer;
+    }
     // A NewChange among the edits that become one makes that one a NewChange.
     m_pending = {property, value, isPending(property) ? m_pending->flags & flags : flags};
     if (mode(property).isAtEndOfRun() && runningProperty() == property)
@@ -164,6 +168,8 @@ QVariant CommitPolicy::value(Property *property)
 {
     if (isPending(property))
         return m_pending->value;
+    if (m_arriving && m_arriving->property == property)
+        return m_arriving->value;
     return m_delegate.get() ? m_delegate.get()->value(property) : QVariant();
 }
 

@@ -135,6 +135,7 @@ private:
     QHash<const PropertyUI::Property *, CommitMode> m_modes;
     QHash<const PropertyUI::Property *, qint64> m_passedAt; // milliseconds, of limited properties
     std::optional<Pending> m_pending;
+    std::optional<Pending> m_arriving; // while one of another property passes before it
     QPointer<PropertyUI::PropertyEditor> m_runningEditor;
     QElapsedTimer m_clock;
     QTimer m_timer;

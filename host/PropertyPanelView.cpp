@@ -59,6 +59,7 @@ void PropertyPanelView::setProperties(const QVector<Property *> &properties,
 {
     const QPointer<PropertyPanelView> self(this);
     const int installation = ++m_installations;
+    m_rules.reset(); // the properties have the list's ranges again, which the new panel is to show
     auto panel = std::make_unique<ViewPanel>(properties, delegate, context);
     panel->setSource(delegate);
     if (self && m_installations == installation)
@@ -70,6 +71,7 @@ void PropertyPanelView::setProperties(const PropertyList &list, IPropertyEditorD
 {
     const QPointer<PropertyPanelView> self(this);
     const int installation = ++m_installations;
+    m_rules.reset(); // the new ones read the ranges, which the old ones may have changed
     auto rules = std::make_unique<RuleEngine>(list, delegate);
     auto panel = std::make_unique<ViewPanel>(list.properties(), rules->delegate(), context);
     panel->setSource(delegate);

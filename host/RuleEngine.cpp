@@ -17,6 +17,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace Tessark::PropertyHost {
 
@@ -222,6 +223,7 @@ void RuleEngine::evaluate(const QVector<int> &rules)
 {
     const QPointer<RuleEngine> self(this);
     QVector<int> ranges;
+    QSet<int> rangedRows;
     for (const int index : rules) {
         const bool isNew = evaluateRule(index);
         if (!self || m_list.expired())
@@ -229,8 +231,10 @@ void RuleEngine::evaluate(const QVector<int> &rules)
         const Rule &rule = m_rules[static_cast<std::size_t>(index)].rule;
         if (!isNew)
             continue;
-        if (isBound(rule.use) && !ranges.contains(rule.row))
+        if (isBound(rule.use) && !rangedRows.contains(rule.row)) {
+            rangedRows.insert(rule.row);
             ranges.append(rule.row);
+        }
         if (!m_panelRows)
             continue;
         const bool holds = m_rules[static_cast<std::size_t>(index)].holds;

@@ -288,7 +288,7 @@ bool SelectionDelegate::isCommon(const Property *property) const
 void SelectionDelegate::setValue(Property *property, const QVariant &value, ChangeFlags flags)
 {
     if (m_marks)
-        m_marks->noteEdit(property);
+        m_marks->noteEdit(property, value);
     const Targets targets = commonTargets(property);
     if (targets.empty())
         return;
@@ -297,7 +297,9 @@ void SelectionDelegate::setValue(Property *property, const QVariant &value, Chan
             target.setValue(value, flags);
         return;
     }
-    if (m_marks && m_marks->isInMenu() && find(property)->hasOwnDefaults) {
+    const Row &edited = *find(property);
+    if (m_marks && m_marks->takeDefault(property)
+        && (edited.hasOwnDefaults || edited.state.isMixed)) {
         setToDefault(property);
         return;
     }
@@ -527,12 +529,16 @@ SelectionDelegate::Row SelectionDelegate::madeRow(const JoinedRow &joined, Prope
     return {shown, joined.shown, targets, joined.isCommon, joined.hasOwnDefaults, {}, {}};
 }
 
-/// The panel's menu is of interest where it cannot do right by itself.
+/// The panel's menu is of interest where it cannot do right by itself: defaults may differ, and fields
+/// that are blank hold numbers which a default may be no edit of.
 void SelectionDelegate::watchMenu()
 {
-    const auto hasOwnDefaults = [](const Row &row) { return row.hasOwnDefaults; };
+    const auto isOfInterest = [](const Row &row) {
+        const bool mayBeMixed = row.isCommon && row.targets.size() > 1;
+        return row.hasOwnDefaults || (mayBeMixed && !row.shown->defaultValue.isNull());
+    };
     if (m_marks)
-        m_marks->setWatchesMenu(std::any_of(m_rows.cbegin(), m_rows.cend(), hasOwnDefaults));
+        m_marks->setWatchesMenu(std::any_of(m_rows.cbegin(), m_rows.cend(), isOfInterest));
 }
 
 /// Where defaults differ, the panel's menu has "Set to Default" only when there is one to show.

@@ -1,13 +1,16 @@
 #include "host/SelectionMarks_p.h"
 
 #include "host/EditorRange_p.h"
+#include "host/ValueJson.h"
 #include "host/ValueKind_p.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QEvent>
 #include <QLineEdit>
@@ -290,10 +293,14 @@ void SelectionMarks::showRange(Property *property)
         renewRange(*editor);
 }
 
-void SelectionMarks::noteEdit(const Property *property)
+void SelectionMarks::noteEdit(const Property *property, const QVariant &value)
 {
-    if (Row *const row = find(property))
-        row->awaitsEdit = false;
+    Row *const row = find(property);
+    if (!row)
+        return;
+    row->awaitsEdit = false;
+    row->arrivedValue = value;
+    row->arrivedFields = std::exchange(row->heldFields, {});
 }
 
 QVariant SelectionMarks::shownValue(const Property *property) const
@@ -312,7 +319,8 @@ QVector<bool> SelectionMarks::partsAtHand(const Property *property, int count) c
         const Field &field = row->fields.at(i);
         // A hidden field holds what the one that is seen does.
         const bool follows = row->fieldAtHand == 0 && field.box && field.box->isHidden();
-        if (field.part < count && (i == row->fieldAtHand || follows))
+        const bool isEdited = i == row->fieldAtHand || row->arrivedFields.contains(i);
+        if (field.part < count && (isEdited || follows))
             parts[field.part] = true;
     }
     return parts;
@@ -339,21 +347,24 @@ bool SelectionMarks::isUntouchedText(const Property *property) const
     return line && !line->isModified();
 }
 
+bool SelectionMarks::takeDefault(const Property *property)
+{
+    Row *const row = find(property);
+    // The menu closes before what was chosen is done. While it is open, edits from before arrive.
+    const bool isChosen = m_menuProperty == property && !QApplication::activePopupWidget();
+    if (!row || !(isChosen || row->awaitsDefault))
+        return false;
+    row->awaitsDefault = false;
+    if (isChosen)
+        m_menuProperty = nullptr;
+    return true;
+}
+
 bool SelectionMarks::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_panelObject) {
-        if (event->type() != QEvent::ContextMenu || m_isInMenu || !m_watchesMenu)
-            return false;
-        const QPointer<SelectionMarks> self(this);
-        m_isInMenu = true;
-        Q_EMIT menuOpens();
-        // The menu is modal: it is closed when the panel is done with the event.
-        watched->event(event);
-        if (self) {
-            m_isInMenu = false;
-            Q_EMIT menuClosed();
-        }
-        return true;
+        const bool opensMenu = event->type() == QEvent::ContextMenu && !m_isInMenu && m_watchesMenu;
+        return opensMenu && openMenu(watched, static_cast<QContextMenuEvent *>(event));
     }
     const auto field = m_fieldOf.constFind(watched);
     if (field != m_fieldOf.constEnd() && isUserInput(event->type())) {
@@ -361,6 +372,48 @@ bool SelectionMarks::eventFilter(QObject *watched, QEvent *event)
             row->fieldAtHand = field->second;
     }
     return false;
+}
+
+bool SelectionMarks::openMenu(QObject *panel, QContextMenuEvent *event)
+{
+    const QPointer<SelectionMarks> self(this);
+    m_isInMenu = true;
+    m_menuProperty = propertyAt(event->pos());
+    Q_EMIT menuOpens();
+    // The menu is modal: it is closed when the panel is done with the event.
+    panel->event(event);
+    if (self) {
+        m_isInMenu = false;
+        m_menuProperty = nullptr;
+        Q_EMIT menuClosed();
+    }
+    return true;
+}
+
+/// The row that the panel opens its menu for, which compares geometries unmapped.
+const Property *SelectionMarks::propertyAt(const QPoint &position) const
+{
+    QVector<PropertyEditor *> editors;
+    m_panel->getEditors(editors, QString());
+    for (PropertyEditor *const editor : std::as_const(editors)) {
+        const QWidget *const widget = editor ? editor->widget(nullptr) : nullptr;
+        if (widget && widget->isVisibleTo(m_panel) && widget->geometry().contains(position))
+            return editor->editedProperty();
+    }
+    return nullptr;
+}
+
+/// Comes after the panel has passed the edit on. What has not arrived by now is held back and arrives
+/// with the next edits as one.
+void SelectionMarks::editAnnounced(const Property *property)
+{
+    Row *const row = find(property);
+    if (!row || !row->editor)
+        return;
+    row->awaitsDefault = m_menuProperty == property;
+    const bool hasArrived = isSameValue(*property, row->editor->value(), row->arrivedValue);
+    if (!hasArrived && row->fieldAtHand >= 0)
+        row->heldFields.insert(row->fieldAtHand);
 }
 
 SelectionMarks::Row *SelectionMarks::find(const Property *property)
@@ -392,6 +445,8 @@ void SelectionMarks::addRow(Property *property, PropertyEditor *editor)
     for (int i = 0; i < boxes.size(); ++i)
         row.fields.append({boxes.at(i), partOfField(*property, i), false, false});
     m_rows.insert(property, row);
+    connect(editor, &PropertyEditor::valueChanged, this,
+            [this, property] { editAnnounced(property); });
 
     const QList<QWidget *> children = widget->findChildren<QWidget *>();
     for (QWidget *const child : children) {

@@ -13,6 +13,8 @@
 #include <QVariant>
 #include <QVector>
 
+class QContextMenuEvent;
+
 namespace Tessark::PropertyHost {
 
 /// What of a row differs between the objects: all, or the parts that are true.
@@ -63,21 +65,21 @@ public:
     /// Disables the row's widget, or not.
     void setUsable(const Property *property, bool usable);
 
-    /// Whether isInMenu() and the signals about the menu are wanted; not at first. They come between
+    /// Whether takeDefault() and the signals about the menu are wanted; not at first. They come between
     /// the panel and what else filters its events.
     void setWatchesMenu(bool watches);
 
     /// The range of the property was changed.
     void showRange(Property *property);
 
-    /// An edit of the row has arrived.
-    void noteEdit(const Property *property);
+    /// An edit of the row has arrived, perhaps later than its editor announced it.
+    void noteEdit(const Property *property, const QVariant &value);
 
     /// The value that the editor showed for a mixed row; invalid while it is not known.
     QVariant shownValue(const Property *property) const;
 
     /// The parts whose fields the user is at: one, all that a single field stands for, or none when
-    /// the edit comes from another control.
+    /// the edit comes from another control; and those of edits that were held back before it.
     QVector<bool> partsAtHand(const Property *property, int count) const;
 
     /// True while fields still show what a mixed row had, though the row is not.
@@ -90,8 +92,9 @@ public:
     /// True for a field of text that the user has not changed.
     bool isUntouchedText(const Property *property) const;
 
-    /// True while the panel's own menu is open or does what was chosen in it.
-    bool isInMenu() const { return m_isInMenu; }
+    /// Whether an edit of the row that arrives, at once or later, is that of "Set to Default" in the
+    /// panel's own menu. Each is told once.
+    bool takeDefault(const Property *property);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -116,14 +119,22 @@ private:
         QVariant shownValue;
         QVector<Field> fields;
         int fieldAtHand = -1;
+        QSet<int> heldFields;    // of edits that have not arrived
+        QSet<int> arrivedFields; // that were held until the edit that arrived last
+        QVariant arrivedValue;
         bool awaitsEdit = false; // the user did something that the editor may not announce
         bool isLate = false;
+        bool awaitsDefault =
+            false;           // it was chosen, but what is in front of the objects holds it back
         QString placeholder; // what the host gave a field of text
     };
 
     Row *find(const Property *property);
     const Row *find(const Property *property) const;
     QWidget *widgetOf(const Row &row) const;
+    bool openMenu(QObject *panel, QContextMenuEvent *event);
+    const Property *propertyAt(const QPoint &position) const;
+    void editAnnounced(const Property *property);
     void addRow(Property *property, PropertyUI::PropertyEditor *editor);
     void watchField(const Property *property, int field);
     void watchBoolean(const Property *property, QWidget &widget);
@@ -142,7 +153,8 @@ private:
     QSet<const Property *> m_pending;
     QTimer m_timer;
     bool m_watchesMenu = false;
-    bool m_isInMenu = false;
+    bool m_isInMenu = false;                  // or what was chosen in it is being done
+    const Property *m_menuProperty = nullptr; // that the menu is about, until its default arrives
 };
 
 } // namespace Tessark::PropertyHost

@@ -95,6 +95,7 @@ private Q_SLOTS:
     void lastLimitedEditPasses();
     void waitingEditIsTheValue();
     void otherPropertyLetsTheWaitingEditPass();
+    void editIsTheValueWhileTheWaitingOnePasses();
     void changeOfModeLetsTheWaitingEditPass();
     void flushPassesOnce();
     void clicksPassAtOnce_data();
@@ -277,6 +278,25 @@ void tst_CommitPolicy::otherPropertyLetsTheWaitingEditPass()
     subject.policy->setValue(&subject.b, 3, kNew);
 
     QCOMPARE(subject.log(), QStringLiteral("a=1/0 a=2/1 b=3/0"));
+}
+
+/// The host may refresh the panel for an edit that passes before another one.
+void tst_CommitPolicy::editIsTheValueWhileTheWaitingOnePasses()
+{
+    Subject subject;
+    subject.policy->setDefaultMode(CommitMode::atMost(1));
+    subject.policy->setValue(&subject.a, 1, kNew);
+    subject.policy->setValue(&subject.a, 2, kContinued);
+    QVariant seen;
+    subject.delegate.onSetValue = [&] {
+        subject.delegate.onSetValue = {};
+        seen = subject.policy->value(&subject.b);
+    };
+
+    subject.policy->setValue(&subject.b, 3, kNew);
+
+    QCOMPARE(subject.log(), QStringLiteral("a=1/0 a=2/1 b=3/0"));
+    QCOMPARE(seen, QVariant(3));
 }
 
 void tst_CommitPolicy::changeOfModeLetsTheWaitingEditPass()

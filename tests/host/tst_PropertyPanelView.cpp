@@ -135,6 +135,8 @@ private Q_SLOTS:
     void clearedViewIsEmpty();
     void plainPropertiesHaveNoRules();
     void hostAttachesRules();
+    void rangesOfTheListComeBackWithNewProperties_data();
+    void rangesOfTheListComeBackWithNewProperties();
 
     void heightFollowsGroups();
     void heightFollowsRules();
@@ -400,6 +402,39 @@ void tst_PropertyPanelView::hostAttachesRules()
 
     QVERIFY(isShown(name("a")));
     QVERIFY(label(name("A"))->isVisible());
+}
+
+void tst_PropertyPanelView::rangesOfTheListComeBackWithNewProperties_data()
+{
+    QTest::addColumn<bool>("hasRules");
+    QTest::newRow("with rules again") << true;
+    QTest::newRow("as plain properties") << false;
+}
+
+/// A new panel of the same rows takes what the rules made of a range for nobody's declaration.
+void tst_PropertyPanelView::rangesOfTheListComeBackWithNewProperties()
+{
+    QFETCH(bool, hasRules);
+    m_list->integer(name("limit"), QString()).range(0, 100).defaultValue(10);
+    m_list->integer(name("n"), QString()).range(0, 50).maximumFollows(name("limit"));
+    show();
+    QCOMPARE(property(name("n"))->maxValue, QVariant(10));
+
+    if (hasRules)
+        m_view->setProperties(*m_list, m_store.get());
+    else
+        m_view->setProperties(m_list->properties(), m_store.get());
+
+    const auto maximum = [this] { return field(name("n"))->findChild<QSpinBox *>()->maximum(); };
+    QCOMPARE(property(name("n"))->maxValue, QVariant(hasRules ? 10 : 50));
+    QCOMPARE(maximum(), hasRules ? 10 : 50);
+    if (!hasRules)
+        return;
+    m_store->setValue(property(name("limit")), QVariant(80), PropertyStore::NewChange);
+    m_view->updateUI();
+    QCOMPARE(maximum(), 80);
+    m_view->clear();
+    QCOMPARE(property(name("n"))->maxValue, QVariant(50));
 }
 
 void tst_PropertyPanelView::heightFollowsGroups()

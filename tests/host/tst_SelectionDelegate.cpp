@@ -132,6 +132,9 @@ private Q_SLOTS:
     void eachObjectHasItsOwnDefault();
     void sharedDefaultIsTheRows();
     void menuGivesEachObjectItsOwnDefault();
+    void menuGivesADefaultThatTheBlanksHold();
+    void menuIsAboutItsRowAlone();
+    void defaultMayArriveLate();
     void revertWithoutMenuIsRefused();
 
     void numbersAreBlankWhileMixed();
@@ -156,6 +159,7 @@ private Q_SLOTS:
     void formatLeavesEachRate();
     void dragIsOneStep();
     void policyMayStandInFront();
+    void editedPartsMayArriveTogether();
     void rulesMayStandInFront();
     void marksFollowEveryOperation();
     void refreshOfThePanelKeepsTheMarks();
@@ -190,7 +194,8 @@ private:
     void select(const MakeRows &makeRows, const QVector<QVariant> &values);
     Object &add(const MakeRows &makeRows);
     void selectAll();
-    void showPanel();
+    void showPanel(CommitPolicy *policy = nullptr);
+    void pickDefault();
     Property *x() const { return row("x"); }
     Property *row(const char *name) const;
     QVector<QVariant> values() const;
@@ -242,10 +247,29 @@ void tst_SelectionDelegate::select(const MakeRows &makeRows, const QVector<QVari
     selectAll();
 }
 
-void tst_SelectionDelegate::showPanel()
+/// "Set to Default" in the menu of the first row.
+void tst_SelectionDelegate::pickDefault()
 {
-    m_panel = std::make_unique<PropertyEditorPanel>(m_selection->properties(), m_selection.get(),
-                                                    nullptr);
+    const TestSupport::MenuProbe probe([](QMenu *menu) {
+        QTest::mouseClick(menu, Qt::LeftButton, {},
+                          menu->actionGeometry(menu->actions().first()).center());
+    });
+    const QPoint position = control<QAbstractSpinBox>()->parentWidget()->geometry().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, position, m_panel->mapToGlobal(position));
+    QCoreApplication::sendEvent(m_panel.get(), &event);
+    QCOMPARE(probe.menus, 1);
+    m_panel->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
+}
+
+/// Shows a panel whose edits go through a policy, or at once without it.
+void tst_SelectionDelegate::showPanel(CommitPolicy *policy)
+{
+    IPropertyEditorDelegate *const front = policy;
+    m_panel = std::make_unique<PropertyEditorPanel>(m_selection->properties(),
+                                                    front ? front : m_selection.get(), nullptr);
+    if (policy)
+        policy->watch(m_panel.get());
     m_selection->attach(m_panel.get());
     m_panel->show();
     m_panel->activateWindow();
@@ -1220,6 +1244,85 @@ void tst_SelectionDelegate::menuGivesEachObjectItsOwnDefault()
     QCOMPARE(values(), QVector<QVariant>({1.0, 1.0}));
 }
 
+/// The neutral numbers behind the blanks are no edit, but the default is meant.
+void tst_SelectionDelegate::menuGivesADefaultThatTheBlanksHold()
+{
+    select(
+        [](PropertyList &list) {
+            list.vec2(QStringLiteral("x"), QString())
+                .range(QVector2D(-9, -9), QVector2D(9, 9))
+                .defaultValue(QVector2D(0, 0));
+        },
+        {QVector2D(1, 2), QVector2D(3, 4)});
+    showPanel();
+
+    pickDefault();
+
+    QCOMPARE(values(), QVector<QVariant>({QVector2D(0, 0), QVector2D(0, 0)}));
+    QCOMPARE(m_stack->count(), 1);
+    QVERIFY(!m_selection->isMixed(x()));
+    QCOMPARE(control<QDoubleSpinBox>()->value(), 0.0);
+    m_stack->undo();
+    QCOMPARE(values(), QVector<QVariant>({QVector2D(1, 2), QVector2D(3, 4)}));
+}
+
+/// An edit of another row that waited until then is what the user made of it.
+void tst_SelectionDelegate::menuIsAboutItsRowAlone()
+{
+    for (const int value : {1, 2}) {
+        add([value](PropertyList &list) {
+            list.integer(QStringLiteral("x"), QString()).range(0, 9).defaultValue(value);
+            list.integer(QStringLiteral("y"), QString()).range(0, 9).defaultValue(value);
+        }).values = {{QStringLiteral("x"), 5}, {QStringLiteral("y"), 5}};
+    }
+    selectAll();
+    CommitPolicy policy(m_selection.get());
+    policy.setDefaultMode(CommitMode::atMost(1));
+    showPanel(&policy);
+    Property *const y = m_selection->properties().at(1);
+    policy.setValue(y, 6, kNew);
+    policy.setValue(y, 7, kNew);
+    QVERIFY(policy.hasPending());
+
+    pickDefault();
+
+    QCOMPARE(values(), QVector<QVariant>({1, 2}));
+    for (const auto &object : m_objects)
+        QCOMPARE(object->values.value(QStringLiteral("y")), QVariant(7));
+    m_panel.reset();
+}
+
+/// Each object gets its own default also when something in front holds the edit back.
+void tst_SelectionDelegate::defaultMayArriveLate()
+{
+    for (const int value : {1, 2}) {
+        add([value](PropertyList &list) {
+            list.integer(QStringLiteral("x"), QString()).range(0, 9).defaultValue(value);
+        }).values[QStringLiteral("x")] = 5;
+    }
+    selectAll();
+    CommitPolicy policy(m_selection.get());
+    policy.setDefaultMode(CommitMode::atMost(1));
+    showPanel(&policy);
+    policy.setValue(x(), 6, kNew);
+
+    pickDefault();
+    QVERIFY(policy.hasPending());
+    policy.flush();
+    QCOMPARE(values(), QVector<QVariant>({1, 2}));
+
+    // What is edited after it takes its place.
+    pickDefault();
+    QVERIFY(policy.hasPending());
+    auto *const box = control<QSpinBox>();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(box, QStringLiteral("4"));
+    policy.flush();
+    QCOMPARE(values(), QVector<QVariant>({4, 4}));
+    m_panel.reset();
+}
+
 void tst_SelectionDelegate::revertWithoutMenuIsRefused()
 {
     for (const int value : {1, 2}) {
@@ -1714,6 +1817,31 @@ void tst_SelectionDelegate::policyMayStandInFront()
     m_stack->undo();
     QCOMPARE(values(), QVector<QVariant>({10, 20}));
     QVERIFY(box->cleanText().isEmpty());
+    m_panel.reset();
+}
+
+void tst_SelectionDelegate::editedPartsMayArriveTogether()
+{
+    select(kVector, {QVector3D(1, 2, 3), QVector3D(4, 5, 6)});
+    CommitPolicy policy(m_selection.get());
+    policy.setDefaultMode(CommitMode::atMost(1));
+    showPanel(&policy);
+    const auto type = [this](int part, const char *number) {
+        auto *const box = control<QDoubleSpinBox>(part);
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(box, QLatin1String(number));
+        QTest::keyClick(box, Qt::Key_Return);
+    };
+
+    type(2, "7"); // passes at once
+    type(0, "8");
+    type(1, "9");
+    QVERIFY(policy.hasPending());
+    QCOMPARE(values(), QVector<QVariant>({QVector3D(1, 2, 7), QVector3D(4, 5, 7)}));
+    policy.flush();
+
+    QCOMPARE(values(), QVector<QVariant>({QVector3D(8, 9, 7), QVector3D(8, 9, 7)}));
     m_panel.reset();
 }
 

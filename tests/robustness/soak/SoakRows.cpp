@@ -218,16 +218,6 @@ QVector<QVariant> variants(std::initializer_list<Value> values)
 
 } // namespace
 
-int below(Random &random, int limit)
-{
-    return int(random() % quint64(limit));
-}
-
-bool happens(Random &random, int percent)
-{
-    return below(random, 100) < percent;
-}
-
 QStringList textureNames()
 {
     return {QStringLiteral("Brick"), QStringLiteral("Sand"), QStringLiteral("Tiles"),

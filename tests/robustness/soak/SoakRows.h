@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/PropertySet.h"
+#include "support/Random.h"
 
 #include <property/Property.h>
 #include <property/PropertyEditor.h>
@@ -10,17 +11,12 @@
 #include <QVector>
 
 #include <functional>
-#include <random>
 
 namespace Soak {
 
-using Random = std::mt19937_64;
-
-/// A number from 0 to below limit.
-int below(Random &random, int limit);
-
-/// Whether something that happens in percent of all cases happens now.
-bool happens(Random &random, int percent);
+using TestSupport::below;
+using TestSupport::happens;
+using TestSupport::Random;
 
 /// What an editor shows after it was given a value of the host. The last argument is what it showed
 /// before: what some editors keep for values that they cannot show.

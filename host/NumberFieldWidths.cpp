@@ -68,6 +68,22 @@ NumberFieldWidths::NumberFieldWidths(QWidget *panel)
     update();
 }
 
+void NumberFieldWidths::updateLater()
+{
+    if (m_isPending)
+        return;
+    m_isPending = true;
+    QMetaObject::invokeMethod(this, &NumberFieldWidths::update, Qt::QueuedConnection);
+}
+
+bool NumberFieldWidths::eventFilter(QObject *watched, QEvent *event)
+{
+    // The field does not know of the change itself yet.
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        updateLater();
+    return QObject::eventFilter(watched, event);
+}
+
 void NumberFieldWidths::update()
 {
     m_isPending = false;
@@ -78,18 +94,6 @@ void NumberFieldWidths::update()
         field.box->setFixedSize(std::max(field.smallest, wantedWidth(*field.box)),
                                 field.box->sizeHint().height());
     }
-}
-
-bool NumberFieldWidths::eventFilter(QObject *watched, QEvent *event)
-{
-    const bool changesSize =
-        event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
-    if (changesSize && !m_isPending) {
-        // Once for all fields, when they know of the change themselves.
-        m_isPending = true;
-        QMetaObject::invokeMethod(this, &NumberFieldWidths::update, Qt::QueuedConnection);
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 } // namespace Tessark::PropertyHost

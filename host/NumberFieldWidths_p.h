@@ -21,12 +21,15 @@ public:
     /// Widens the fields that the panel has now.
     explicit NumberFieldWidths(QWidget *panel);
 
-    /// To be called when ranges or suffixes may have changed.
-    void update();
+    /// To be called when ranges or suffixes may have changed: looks at all fields, once for all
+    /// calls, when control is back in the event loop.
+    void updateLater();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void update();
+
     struct Field
     {
         QPointer<QDoubleSpinBox> box;

@@ -258,7 +258,7 @@ void PropertyPanelView::updateProperty(Property *property)
         panel->updateProperty(property);
     if (!panel || panel != m_panel)
         return;
-    m_numberFields->update();
+    m_numberFields->updateLater();
     m_help->update(property);
     m_description->showHelp();
     m_search->update(property);

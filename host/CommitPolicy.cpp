@@ -68,6 +68,11 @@ CommitPolicy::~CommitPolicy()
     flush();
 }
 
+IPropertyEditorDelegate *CommitPolicy::delegate() const
+{
+    return m_delegate.get();
+}
+
 CommitMode CommitPolicy::defaultMode() const
 {
     return m_defaultMode;

@@ -89,6 +89,9 @@ public:
     explicit CommitPolicy(PropertyUI::IPropertyEditorDelegate *delegate, QObject *parent = nullptr);
     ~CommitPolicy() override;
 
+    /// The inner delegate, or null when there is none or it was deleted.
+    PropertyUI::IPropertyEditorDelegate *delegate() const;
+
     /// The mode of all properties without one of their own. What waits passes before it changes.
     CommitMode defaultMode() const;
     void setDefaultMode(CommitMode mode);

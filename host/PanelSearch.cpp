@@ -16,7 +16,7 @@ PanelSearch::PanelSearch(ViewPanel &panel)
     , m_origin(panel)
     , m_index(m_rows->count())
     , m_tree(*m_rows)
-    , m_changedRows(panel.source())
+    , m_changedRows(DelegateChain(panel.source()))
     , m_highlight(m_rows, &panel)
     , m_tabs(m_rows)
     , m_isChanged(m_rows->all().size())
@@ -24,7 +24,7 @@ PanelSearch::PanelSearch(ViewPanel &panel)
 {
     for (int row = 0; row < m_rows->count(); ++row)
         m_index.setTexts(row, textsOfRow(*m_rows->at(row).property));
-    connect(&panel, &ViewPanel::edited, this, &PanelSearch::valuesChanged);
+    connect(&panel, &ViewPanel::valueEdited, this, &PanelSearch::valuesChanged);
     connect(&panel.visibility(), &RowVisibility::rowsChanged, this, &PanelSearch::rowsChanged);
 }
 

@@ -8,6 +8,7 @@
 #include "host/PanelMemory_p.h"
 #include "host/PanelState_p.h"
 #include "host/PropertyList.h"
+#include "host/RowControls_p.h"
 #include "host/RowHelp_p.h"
 #include "host/RuleEngine.h"
 #include "host/SearchOrigin_p.h"
@@ -34,6 +35,7 @@ PropertyPanelView::PropertyPanelView(QWidget *parent)
     , m_description(new DescriptionLine(this))
     , m_wheelGuard(new WheelGuard(this))
     , m_search(new ViewSearch(this, m_area))
+    , m_features(std::make_unique<RowFeatures>())
     , m_state(std::make_unique<PanelState>())
 {
     m_area->setFrameShape(QFrame::NoFrame);
@@ -63,7 +65,7 @@ void PropertyPanelView::setProperties(const QVector<Property *> &properties,
     auto panel = std::make_unique<ViewPanel>(properties, delegate, context);
     panel->setSource(delegate);
     if (self && m_installations == installation)
-        install(std::move(panel), nullptr);
+        install(std::move(panel), nullptr, delegate);
 }
 
 void PropertyPanelView::setProperties(const PropertyList &list, IPropertyEditorDelegate *delegate,
@@ -76,7 +78,7 @@ void PropertyPanelView::setProperties(const PropertyList &list, IPropertyEditorD
     auto panel = std::make_unique<ViewPanel>(list.properties(), rules->delegate(), context);
     panel->setSource(delegate);
     if (self && m_installations == installation)
-        install(std::move(panel), std::move(rules));
+        install(std::move(panel), std::move(rules), delegate);
 }
 
 void PropertyPanelView::clear()
@@ -211,6 +213,46 @@ void PropertyPanelView::setOnlyChanged(bool onlyChanged)
     m_search->setOnlyChanged(onlyChanged);
 }
 
+bool PropertyPanelView::areDefaultMarksVisible() const
+{
+    return m_features->defaultMarks;
+}
+
+void PropertyPanelView::setDefaultMarksVisible(bool visible)
+{
+    setFeature(&RowFeatures::defaultMarks, visible);
+}
+
+bool PropertyPanelView::isRowMenuEnabled() const
+{
+    return m_features->menu;
+}
+
+void PropertyPanelView::setRowMenuEnabled(bool enabled)
+{
+    setFeature(&RowFeatures::menu, enabled);
+}
+
+bool PropertyPanelView::isLabelScrubbing() const
+{
+    return m_features->labelScrubbing;
+}
+
+void PropertyPanelView::setLabelScrubbing(bool scrubbing)
+{
+    setFeature(&RowFeatures::labelScrubbing, scrubbing);
+}
+
+bool PropertyPanelView::isArithmeticEntry() const
+{
+    return m_features->arithmeticEntry;
+}
+
+void PropertyPanelView::setArithmeticEntry(bool arithmetic)
+{
+    setFeature(&RowFeatures::arithmeticEntry, arithmetic);
+}
+
 QByteArray PropertyPanelView::saveState() const
 {
     return QJsonDocument(currentState().toJson()).toJson(QJsonDocument::Compact);
@@ -259,9 +301,12 @@ void PropertyPanelView::updateProperty(Property *property)
     if (!panel || panel != m_panel)
         return;
     m_numberFields->updateLater();
+    m_controls->beginUpdate(property);
     m_help->update(property);
     m_description->showHelp();
-    m_search->update(property);
+    m_controls->endUpdate(property);
+    if (panel && panel == m_panel)
+        m_search->update(property);
 }
 
 void PropertyPanelView::expandAll()
@@ -302,12 +347,16 @@ void PropertyPanelView::showEvent(QShowEvent *event)
 /// Brings a new panel into the state that the old one has and puts it in its place. Whatever host
 /// code this runs may delete the view or begin another installation, which then is the one that
 /// counts.
-void PropertyPanelView::install(std::unique_ptr<ViewPanel> panel, std::unique_ptr<RuleEngine> rules)
+void PropertyPanelView::install(std::unique_ptr<ViewPanel> panel, std::unique_ptr<RuleEngine> rules,
+                                IPropertyEditorDelegate *delegate)
 {
     const QPointer<PropertyPanelView> self(this);
     const int installation = m_installations;
     if (m_areTextsAsWritten)
         showTextsAsWritten(*panel);
+    // Before values are shown, so that it sees them.
+    const QPointer<RowControls> controls =
+        new RowControls(panel.get(), DelegateChain(delegate), *m_features);
     panel->updateUI();
     if (self && m_installations == installation && rules)
         rules->attach(panel.get());
@@ -319,6 +368,8 @@ void PropertyPanelView::install(std::unique_ptr<ViewPanel> panel, std::unique_pt
     if (!self || m_installations != installation)
         return;
     std::swap(m_rules, rules); // the old ones go with the old panel
+    m_controls = controls;
+    connect(controls, &RowControls::menuAboutToShow, this, &PropertyPanelView::rowMenuAboutToShow);
     replacePanel(panel.release());
     restorePlace();
     m_search->follow(m_panel, m_extent, *m_state);
@@ -328,6 +379,15 @@ void PropertyPanelView::install(std::unique_ptr<ViewPanel> panel, std::unique_pt
     const QWidget *const focused = window()->focusWidget();
     if (m_state->focus && !m_search->hasFocus() && (hadPanel || !focused || isAncestorOf(focused)))
         PanelMemory(*m_panel, *m_area).restoreFocus(*m_state->focus);
+    if (m_controls)
+        m_controls->setFeatures(*m_features); // as a callback may have set them
+}
+
+void PropertyPanelView::setFeature(bool RowFeatures::*feature, bool on)
+{
+    (*m_features).*feature = on;
+    if (m_controls)
+        m_controls->setFeatures(*m_features);
 }
 
 void PropertyPanelView::replacePanel(ViewPanel *panel)

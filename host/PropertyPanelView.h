@@ -7,6 +7,7 @@
 #include <property/Property.h>
 
 #include <QByteArray>
+#include <QMenu>
 #include <QPointer>
 #include <QVector>
 #include <QWidget>
@@ -27,6 +28,7 @@ class LabelSplitter;
 class NumberFieldWidths;
 class PanelExtent;
 class PropertyList;
+class RowControls;
 class RowHelp;
 class RuleEngine;
 class SplitterHandle;
@@ -34,6 +36,7 @@ class ViewPanel;
 class ViewSearch;
 class WheelGuard;
 struct PanelState;
+struct RowFeatures;
 
 /**
  * A PropertyEditorPanel that scrolls, with what a panel in a window of its own wants:
@@ -46,6 +49,8 @@ struct PanelState;
  * - The mouse wheel scrolls, and changes only values of controls that have the focus.
  * - The hint kHostHintHelp of a row is the tool tip of its label and field.
  * - Ctrl+F searches the rows, see openSearch().
+ * - Rows that differ from their defaults have a mark, and labels a menu. Rows whose objects have
+ *   different values, where the delegate is or passes on to a SelectionDelegate, are drawn so.
  *
  *     PropertyPanelView view;
  *     view.restoreState(settings.value("panel").toByteArray());
@@ -65,6 +70,10 @@ class TESSARK_PROPERTYHOST_EXPORT PropertyPanelView : public QWidget
     Q_PROPERTY(bool textsAsWritten READ areTextsAsWritten WRITE setTextsAsWritten)
     Q_PROPERTY(bool descriptionVisible READ isDescriptionVisible WRITE setDescriptionVisible)
     Q_PROPERTY(bool searchEnabled READ isSearchEnabled WRITE setSearchEnabled)
+    Q_PROPERTY(bool defaultMarksVisible READ areDefaultMarksVisible WRITE setDefaultMarksVisible)
+    Q_PROPERTY(bool rowMenuEnabled READ isRowMenuEnabled WRITE setRowMenuEnabled)
+    Q_PROPERTY(bool labelScrubbing READ isLabelScrubbing WRITE setLabelScrubbing)
+    Q_PROPERTY(bool arithmeticEntry READ isArithmeticEntry WRITE setArithmeticEntry)
 
 public:
     /// A view without rows.
@@ -144,6 +153,28 @@ public:
     bool isOnlyChanged() const;
     void setOnlyChanged(bool onlyChanged);
 
+    /// Whether rows that differ from their defaults have a mark beside the label; true at first. A
+    /// click on it sets the row to its default, as the user's edit. The default is that of the property
+    /// or, of a selection, each object's own. Rows without default, static texts and rows that their
+    /// property disables have none. To show them, the host is asked for the values of rows that have a
+    /// default.
+    bool areDefaultMarksVisible() const;
+    void setDefaultMarksVisible(bool visible);
+
+    /// Whether labels, and the headers of groups, have a menu; true at first. Keys open it for a field
+    /// that has no menu of its own. What it sets and pastes are edits by the user; of a group, one undo
+    /// step.
+    bool isRowMenuEnabled() const;
+    void setRowMenuEnabled(bool enabled);
+
+    /// Whether dragging on the label of a number changes it, see LabelScrubber; not at first.
+    bool isLabelScrubbing() const;
+    void setLabelScrubbing(bool scrubbing);
+
+    /// Whether fields of numbers take arithmetic, see NumberEntry; not at first.
+    bool isArithmeticEntry() const;
+    void setArithmeticEntry(bool arithmetic);
+
     /**
      * What the user has arranged: open groups, current tabs, how far it is scrolled, which control
      * has the focus, and the width of the labels.
@@ -180,11 +211,18 @@ public Q_SLOTS:
     void openSearch();
     void closeSearch();
 
+Q_SIGNALS:
+    /// The menu of the property's row is about to be shown, for actions of the host. It deletes itself
+    /// when it is closed, and is closed when the row goes.
+    void rowMenuAboutToShow(QMenu *menu, Tessark::PropertyUI::Property *property);
+
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void install(std::unique_ptr<ViewPanel> panel, std::unique_ptr<RuleEngine> rules);
+    void install(std::unique_ptr<ViewPanel> panel, std::unique_ptr<RuleEngine> rules,
+                 PropertyUI::IPropertyEditorDelegate *delegate);
+    void setFeature(bool RowFeatures::*feature, bool on);
     void replacePanel(ViewPanel *panel);
     void restorePlace();
     PanelState currentState() const;
@@ -194,12 +232,14 @@ private:
     WheelGuard *m_wheelGuard;
     ViewSearch *m_search;
     QPointer<ViewPanel> m_panel;                // owned by m_area
-    QPointer<NumberFieldWidths> m_numberFields; // owned by the panel, as are the next two
+    QPointer<NumberFieldWidths> m_numberFields; // owned by the panel, as are the next three
     QPointer<PanelExtent> m_extent;
     QPointer<LabelSplitter> m_splitter;
+    QPointer<RowControls> m_controls;
     QPointer<SplitterHandle> m_splitterHandle; // owned by m_area
     std::unique_ptr<RowHelp> m_help;
     std::unique_ptr<RuleEngine> m_rules;
+    std::unique_ptr<RowFeatures> m_features;
     std::unique_ptr<PanelState> m_state; // of the panels so far, or as it was restored
     int m_installations = 0;             // begun so far: the last one wins
     bool m_isSplitterMovable = false;

@@ -16,12 +16,6 @@ using namespace PropertyUI;
 
 namespace {
 
-/// Help is plain text; a tool tip would take what looks like markup for markup.
-QString toolTipOf(const QString &help)
-{
-    return help.isEmpty() ? QString() : Qt::convertFromPlainText(help, Qt::WhiteSpaceNormal);
-}
-
 /// Replaces what was shown before. What a widget has from somebody else stays.
 void showHelp(QWidget *widget, const QString &help, const QString &shown)
 {
@@ -38,6 +32,11 @@ void showHelp(QWidget *widget, const QString &help, const QString &shown)
 QString helpOf(const Property &property)
 {
     return property.hint(kHostHintHelp).toString();
+}
+
+QString toolTipOf(const QString &help)
+{
+    return help.isEmpty() ? QString() : Qt::convertFromPlainText(help, Qt::WhiteSpaceNormal);
 }
 
 RowHelp::RowHelp(std::shared_ptr<const PanelRows> rows)

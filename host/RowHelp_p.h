@@ -12,6 +12,9 @@ namespace Tessark::PropertyHost {
 /// What the host says about the property: kHostHintHelp.
 QString helpOf(const PropertyUI::Property &property);
 
+/// The same for a tool tip, which would take what looks like markup for markup.
+QString toolTipOf(const QString &help);
+
 /**
  * The help texts of a panel's rows as tool tips of their labels and fields, of a tab's row on its
  * tab. Screen readers get them as descriptions. A field that has one of its own keeps it.

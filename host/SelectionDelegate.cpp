@@ -1,5 +1,6 @@
 #include "host/SelectionDelegate.h"
 
+#include "host/ChangedRows_p.h"
 #include "host/FollowedBounds_p.h"
 #include "host/PropertyList.h"
 #include "host/RowJoin_p.h"
@@ -59,6 +60,7 @@ struct SelectionDelegate::Row
     bool hasOwnDefaults;
     MixedState state;
     QVariant value; // what value() gave last
+    bool differsFromDefault = false;
 };
 
 /// A list that a panel may still have.
@@ -212,6 +214,11 @@ SelectionDelegate::SelectionDelegate(QUndoStack *stack, QObject *parent)
 }
 
 SelectionDelegate::~SelectionDelegate() = default;
+
+QUndoStack *SelectionDelegate::undoStack() const
+{
+    return m_stack;
+}
 
 PartialRows SelectionDelegate::partialRows() const
 {
@@ -376,6 +383,12 @@ bool SelectionDelegate::hasDefault(const Property *property) const
     return std::any_of(targets.cbegin(), targets.cend(), [](const Target &target) {
         return !target.property->defaultValue.isNull();
     });
+}
+
+bool SelectionDelegate::differsFromDefault(const Property *property) const
+{
+    const Row *const row = find(property);
+    return row && row->isCommon && row->differsFromDefault;
 }
 
 bool SelectionDelegate::setToDefault(Property *property)
@@ -707,6 +720,11 @@ bool SelectionDelegate::readState(Property *property)
     if (!row)
         return false;
     const MixedState state = stateOf(*property, *values);
+    const auto isDefault = [](const Target &target, const QVariant &value) {
+        return !PropertyHost::differsFromDefault(*target.property, value);
+    };
+    row->differsFromDefault =
+        !std::equal(targets.cbegin(), targets.cend(), values->cbegin(), isDefault);
     row->value = values->isEmpty() ? QVariant()
                  : state.isMixed   ? neutralValue(*property, state, values->first())
                                    : values->first();

@@ -76,6 +76,9 @@ public:
     explicit SelectionDelegate(QUndoStack *stack = nullptr, QObject *parent = nullptr);
     ~SelectionDelegate() override;
 
+    /// The stack that was given, or null when there is none or it was deleted.
+    QUndoStack *undoStack() const;
+
     /// LeaveOut at first. A change rebuilds the rows as setMembers() does.
     PartialRows partialRows() const;
     void setPartialRows(PartialRows partialRows);
@@ -129,6 +132,10 @@ public:
 
     /// Whether an object has a default for the row.
     bool hasDefault(const PropertyUI::Property *property) const;
+
+    /// Whether an object has another value than its own default, as the values were read last. False
+    /// for rows without default, that not every object has, and of another list.
+    bool differsFromDefault(const PropertyUI::Property *property) const;
 
     /// Gives each object its own default; one without default stays as it is. False when there is
     /// none or the row is not common. The menu of an attached panel does the same. Where the

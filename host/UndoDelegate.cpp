@@ -1,5 +1,6 @@
 #include "host/UndoDelegate.h"
 
+#include "host/FocusedField_p.h"
 #include "host/UndoRun_p.h"
 #include "host/ValueJson.h"
 #include "host/ValueKind_p.h"
@@ -7,15 +8,10 @@
 #include <property/Property.h>
 #include <property/PropertyEditor.h>
 #include <property/PropertyEditorPanel.h>
-#include <property/editors/FloatPropertyEditor.h>
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDoubleSpinBox>
-#include <QSignalBlocker>
 #include <QUndoStack>
 
-#include <cmath>
 #include <utility>
 
 namespace Tessark::PropertyHost {
@@ -41,22 +37,6 @@ QVector<QPointer<PropertyEditor>> editorsOf(const PropertyEditorPanel &panel,
             result.append(editor);
     }
     return result;
-}
-
-/// A "float" row leaves its field alone while that has the focus, for what the user types. To undo is
-/// to take that back, and what the field still shows would be the next edit.
-void showInFocusedField(PropertyEditor &editor, const QVariant &value)
-{
-    auto *const field = qobject_cast<QDoubleSpinBox *>(QApplication::focusWidget());
-    const QWidget *const row = editor.widget(nullptr);
-    if (!field || !row || !row->isAncestorOf(field)
-        || !qobject_cast<FloatPropertyEditor *>(&editor))
-        return;
-    const QVariant scale = editor.editedProperty()->hint(kPropertyHintDisplayScale);
-    const double shown = value.toDouble() * (scale.isNull() ? 1.0 : scale.toDouble());
-    const QSignalBlocker blocker(field);
-    if (std::isfinite(shown))
-        field->setValue(shown);
 }
 
 } // namespace
@@ -118,6 +98,11 @@ IPropertyEditorDelegate *UndoDelegate::delegate() const
 void UndoDelegate::setDelegate(IPropertyEditorDelegate *delegate)
 {
     m_delegate = DelegatePointer(delegate);
+}
+
+QUndoStack *UndoDelegate::undoStack() const
+{
+    return m_stack;
 }
 
 void UndoDelegate::attach(PropertyEditorPanel *panel)

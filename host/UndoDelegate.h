@@ -64,6 +64,9 @@ public:
     PropertyUI::IPropertyEditorDelegate *delegate() const;
     void setDelegate(PropertyUI::IPropertyEditorDelegate *delegate);
 
+    /// The stack that was given, or null when there is none or it was deleted.
+    QUndoStack *undoStack() const;
+
     /// Shows in panel what undo and redo restore, until the panel is deleted: in the rows of the
     /// property alone, with the values that the panel's own delegate gives. Groups fold and open. The
     /// panel's delegate is this object or one that passes on to it. Any number of panels can be

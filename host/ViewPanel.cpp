@@ -2,6 +2,10 @@
 
 #include <property/PropertyEditor.h>
 
+#include <QContextMenuEvent>
+
+#include <utility>
+
 namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
@@ -22,13 +26,43 @@ void ViewPanel::setSource(IPropertyEditorDelegate *source)
     m_source = DelegatePointer(source);
 }
 
+void ViewPanel::announce(PropertyEditor &editor, const QVariant &value)
+{
+    const QPointer<ViewPanel> self(this);
+    m_announced = value;
+    Q_EMIT editor.valueChanged();
+    if (self)
+        m_announced = QVariant();
+}
+
 void ViewPanel::setValue(Property *property, const QVariant &value,
                          IPropertyEditorDelegate::ChangeFlags flags)
 {
     const QPointer<ViewPanel> self(this);
-    PropertyEditorPanel::setValue(property, value, flags);
+    const QVariant announced = std::exchange(m_announced, QVariant());
+    PropertyEditorPanel::setValue(property, announced.isValid() ? announced : value, flags);
     if (self)
-        Q_EMIT edited();
+        Q_EMIT valueEdited(property);
+}
+
+QVariant ViewPanel::value(Property *property) const
+{
+    const QPointer<const ViewPanel> self(this);
+    QVariant value = PropertyEditorPanel::value(property);
+    if (self)
+        Q_EMIT valueRead(property, value);
+    return value;
+}
+
+void ViewPanel::contextMenuEvent(QContextMenuEvent *event)
+{
+    const QPointer<ViewPanel> self(this);
+    event->ignore();
+    Q_EMIT menuRequested(event);
+    if (!self || event->isAccepted())
+        return;
+    event->accept();
+    PropertyEditorPanel::contextMenuEvent(event);
 }
 
 // The rows may show or delete anything: nothing is touched afterwards.

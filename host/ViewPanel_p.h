@@ -4,7 +4,10 @@
 #include "host/GroupFolding_p.h"
 #include "host/RowVisibility_p.h"
 
+#include <property/IPropertyEditorDelegate.h>
 #include <property/PropertyEditorPanel.h>
+
+#include <QVariant>
 
 #include <memory>
 
@@ -30,14 +33,27 @@ public:
     PropertyUI::IPropertyEditorDelegate *source() const { return m_source.get(); }
     void setSource(PropertyUI::IPropertyEditorDelegate *source);
 
+    /// Has the editor announce an edit, of which the host is told the value, and not what the fields
+    /// make of it. An invalid one is what the fields make of it. Host code runs here.
+    void announce(PropertyUI::PropertyEditor &editor, const QVariant &value);
+
     void setValue(PropertyUI::Property *property, const QVariant &value,
                   PropertyUI::IPropertyEditorDelegate::ChangeFlags flags) override;
+    QVariant value(PropertyUI::Property *property) const override;
 
 Q_SIGNALS:
-    /// The user edited a value, and the delegate was told.
-    void edited();
+    /// The host was asked for the value, to show it or for another reason.
+    void valueRead(PropertyUI::Property *property, const QVariant &value) const;
+
+    /// The host was told of an edit.
+    void valueEdited(PropertyUI::Property *property);
+
+    /// The user asks for a menu that the control does not have. Who opens one accepts the request; else
+    /// it is the panel's.
+    void menuRequested(QContextMenuEvent *request);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void showGroup(PropertyUI::PropertyEditor *group, bool open) override;
 
 private:
@@ -45,6 +61,7 @@ private:
     std::unique_ptr<RowVisibility> m_visibility;
     GroupFolding m_folding;
     DelegatePointer m_source;
+    QVariant m_announced; // instead of what the fields say
 };
 
 /// What decides which rows of the panel are shown; null for a panel outside of a view.

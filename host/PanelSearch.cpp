@@ -3,6 +3,8 @@
 #include "host/RowTexts_p.h"
 #include "host/SearchText_p.h"
 
+#include <property/Property.h>
+
 #include <QHash>
 
 namespace Tessark::PropertyHost {

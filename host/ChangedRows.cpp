@@ -130,9 +130,15 @@ bool ChangedRows::hasDefault(const Property &property) const
 
 bool ChangedRows::isChanged(const PanelRow &row) const
 {
+    // The host may delete whose these are.
+    const ChangedRows self = *this;
+    const PanelRow asked = row;
     auto *const panel =
         row.editor ? qobject_cast<PropertyEditorPanel *>(row.editor->parent()) : nullptr;
-    return panel && hasDefault(*row.property) && isChanged(row, panel->value(row.property));
+    if (!panel || !hasDefault(*row.property))
+        return false;
+    const QVariant value = panel->value(asked.property);
+    return asked.editor && self.isChanged(asked, value);
 }
 
 bool ChangedRows::isChanged(const PanelRow &row, const QVariant &value) const

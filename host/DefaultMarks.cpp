@@ -128,7 +128,10 @@ DefaultMark *DefaultMarks::makeMark(int row)
 
 void DefaultMarks::restore(int row)
 {
-    m_edit.setToDefault(m_rows->at(row));
+    // The host may delete this object meanwhile.
+    const RowEdit edit = m_edit;
+    const PanelRow widgets = m_rows->at(row);
+    edit.setToDefault(widgets);
 }
 
 void DefaultMarks::place(int row)

@@ -98,7 +98,7 @@ std::optional<Problem> RowEdit::change(const PanelRow &row, const RelativeEdit &
     SelectionDelegate *const selection = row.editor ? m_delegates.selection() : nullptr;
     if (!selection)
         return std::nullopt;
-    const auto problem = selection->applyRelative(row.property, edit.operation, edit.operand);
+    auto problem = selection->applyRelative(row.property, edit.operation, edit.operand);
     if (!problem)
         show(row);
     return problem;

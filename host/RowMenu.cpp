@@ -198,7 +198,7 @@ void RowMenu::changeEach(int row, const QString &text)
 {
     const PanelRow widgets = m_rows->at(row);
     const auto edit = parseRelativeEdit(text, *widgets.property);
-    const auto problem = edit ? m_edit.change(widgets, *edit) : std::nullopt;
+    const auto problem = edit ? RowEdit(m_edit).change(widgets, *edit) : std::nullopt;
     if (problem)
         QToolTip::showText(QCursor::pos(), problem->message);
 }
@@ -307,7 +307,8 @@ RowMenu::Assignments RowMenu::pastedIntoGroup(int group, const QString &text) co
 void RowMenu::setToDefault(const QVector<int> &rows)
 {
     if (rows.size() == 1) {
-        m_edit.setToDefault(m_rows->at(rows.first()));
+        const PanelRow widgets = m_rows->at(rows.first());
+        RowEdit(m_edit).setToDefault(widgets);
         return;
     }
     // This object may go with each edit; the rows stay as long as they are held.
@@ -321,7 +322,9 @@ void RowMenu::setToDefault(const QVector<int> &rows)
 void RowMenu::paste(const Assignments &assignments)
 {
     if (assignments.size() == 1) {
-        m_edit.set(m_rows->at(assignments.front().row), assignments.front().value);
+        const PanelRow widgets = m_rows->at(assignments.front().row);
+        const QVariant value = assignments.front().value;
+        RowEdit(m_edit).set(widgets, value);
         return;
     }
     const auto all = [assignments, panelRows = m_rows, edit = m_edit] {

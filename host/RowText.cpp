@@ -28,7 +28,7 @@ QString numberText(double number)
 QString arrayText(const QJsonArray &array)
 {
     QStringList texts;
-    for (const QJsonValue &element : array) {
+    for (const auto &element : array) {
         if (!element.isDouble()) // of a type of the host
             return QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));
         texts.append(numberText(element.toDouble()));
@@ -113,8 +113,7 @@ std::optional<QVariant> valueOfText(const Property &property, const QString &tex
     // Numbers come before texts, whose readers take single precision.
     for (const QJsonValue &json : {jsonOfText(trimmed), numbersOfText(trimmed), QJsonValue(trimmed),
                                    numberInLocale(trimmed)}) {
-        const auto value =
-            json.isUndefined() ? std::nullopt : valueFromJson(property, json, ignored);
+        auto value = json.isUndefined() ? std::nullopt : valueFromJson(property, json, ignored);
         if (value)
             return value;
     }

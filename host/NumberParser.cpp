@@ -40,7 +40,8 @@ NumberParser::NumberParser(const QString &text, const NumberScope &scope)
     , m_scanner(text)
 {
     if (text.size() > kMaximumLength)
-        fail(kMaximumLength, tr("The expression is longer than %1 characters").arg(kMaximumLength));
+        fail(kMaximumLength,
+             tr("The expression is longer than %n characters", nullptr, kMaximumLength));
 }
 
 NumberOperation NumberParser::takeOperation()
@@ -277,7 +278,7 @@ bool NumberParser::descend()
 {
     if (++m_depth > kMaximumDepth) {
         fail(m_scanner.position(),
-             tr("The expression is nested more than %1 levels deep").arg(kMaximumDepth));
+             tr("The expression is nested more than %n levels deep", nullptr, kMaximumDepth));
     }
     return !hasFailed();
 }

@@ -46,9 +46,9 @@ void fit(QWidget &page)
 }
 
 /// What the pages of tabs like to have more than the tabs take for them.
-int roomForPages(const QLayoutItem &item, const QHash<const QWidget *, int> &wanted)
+int roomForPages(QLayoutItem &item, const QHash<const QWidget *, int> &wanted)
 {
-    const auto *const tabs = qobject_cast<const QTabWidget *>(item.widget());
+    const auto *const tabs = qobject_cast<QTabWidget *>(item.widget());
     int taken = 0;
     int most = 0;
     for (int i = 0; tabs && i < tabs->count(); ++i) {
@@ -65,7 +65,7 @@ int wantedWidth(const QWidget &page, const QHash<const QWidget *, int> &wanted)
     const auto *const layout = page.layout();
     int width = page.minimumWidth();
     for (int i = 0; i < layout->count(); ++i) {
-        const QLayoutItem &item = *layout->itemAt(i);
+        QLayoutItem &item = *layout->itemAt(i);
         if (item.isEmpty())
             continue;
         // Where an item begins does not depend on the page's width.

@@ -128,7 +128,7 @@ QSize PropertyPanelView::contentsSize() const
         m_extent->settle();
     QSize size = m_extent ? m_extent->wantedSize() : QSize(0, 0);
     for (int i = 0; i < layout()->count(); ++i) {
-        const QLayoutItem &item = *layout()->itemAt(i);
+        QLayoutItem &item = *layout()->itemAt(i);
         if (item.isEmpty() || item.widget() == m_area)
             continue;
         size.setWidth(std::max(size.width(), item.minimumSize().width()));

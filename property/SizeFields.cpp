@@ -33,7 +33,7 @@ int scaledSide(int value, int multiplier, int divisor, int fallback)
 } // namespace
 
 SizeFields::SizeFields(PropertyEditor *editor, const QString &constrainText)
-    : m_labels{new QLabel(QStringLiteral("w:")), new QLabel(QStringLiteral("h:"))}
+    : m_labels{new QLabel(PropertyEditor::tr("w:")), new QLabel(PropertyEditor::tr("h:"))}
     , m_spinBoxes{makeSpinBox(editor), makeSpinBox(editor)}
     , m_aspectRatio(toSaturatedSize(editor->hint(kPropertyHintAspectRatio)))
 {

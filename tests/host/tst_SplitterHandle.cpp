@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -281,8 +282,11 @@ void tst_SplitterHandle::letsTheMouseThrough()
 
     QCOMPARE(m_view->childAt(m_view->panel()->mapTo(m_view.get(), position)), m_view->panel());
     QTest::mousePress(m_view->panel(), Qt::LeftButton, {}, position);
-    QTest::mouseMove(m_view->panel(), position - QPoint(20, 0));
-    QTest::mouseRelease(m_view->panel(), Qt::LeftButton, {}, position - QPoint(20, 0));
+    const QPoint further = position - QPoint(20, 0);
+    QMouseEvent move(QEvent::MouseMove, further, m_view->panel()->mapToGlobal(further),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_view->panel(), &move);
+    QTest::mouseRelease(m_view->panel(), Qt::LeftButton, {}, further);
 
     QCOMPARE(m_view->labelWidth(), before - 20);
 }

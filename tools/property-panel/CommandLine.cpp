@@ -1,7 +1,8 @@
 #include "CommandLine.h"
 
+#include "Texts.h"
+
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <iterator>
@@ -29,47 +30,50 @@ const QString kTrusted = QStringLiteral("trusted");
 const QString kVersion = QStringLiteral("version");
 const QString kHelp = QStringLiteral("help");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
-
 void describe(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(
-        tr("Shows a panel for a JSON list of properties and writes the values that the user gave "
-           "them, as a JSON object of name to value."));
+    parser.setApplicationDescription(Texts::tr(
+        "Shows a panel for a JSON list of properties and writes the values that the user gave "
+        "them, as a JSON object of name to value."));
     parser.addPositionalArgument(
         QStringLiteral("LIST.json"),
-        tr("The property list; - reads standard input. Without it a built-in list is shown."),
+        Texts::tr(
+            "The property list; - reads standard input. Without it a built-in list is shown."),
         QStringLiteral("[LIST.json]"));
     parser.addOptions({
-        {kValues, tr("Start from the values in <FILE> instead of the defaults."), tr("FILE")},
+        {kValues, Texts::tr("Start from the values in <FILE> instead of the defaults."),
+         Texts::tr("FILE")},
         {kSettings,
-         tr("Start from the values in the INI file <FILE>, if it exists, and save to it. Values of "
-            "--values go before its own; its other keys stay."),
-         tr("FILE")},
-        {kOutput, tr("Save to <FILE>, whole or not at all, instead of to standard output."),
-         tr("FILE")},
-        {kLive, tr("Print each change at once as one line of JSON: \"name\", \"value\" and, in "
+         Texts::tr("Start from the values in the INI file <FILE>, if it exists, and save to it. "
+                   "Values of "
+                   "--values go before its own; its other keys stay."),
+         Texts::tr("FILE")},
+        {kOutput, Texts::tr("Save to <FILE>, whole or not at all, instead of to standard output."),
+         Texts::tr("FILE")},
+        {kLive,
+         Texts::tr("Print each change at once as one line of JSON: \"name\", \"value\" and, in "
                    "\"continued\", whether it goes on with the change before it.")},
         {kCommit,
-         tr("When --live prints a change: live (the default), at once; rate:<N>, at most N times "
-            "a second, N from 1 to 1000, and always the last; end, when the drag or the typing "
-            "ends."),
-         tr("WHEN")},
-        {kCheck, tr("List all that is wrong with the list and the values; show nothing.")},
+         Texts::tr(
+             "When --live prints a change: live (the default), at once; rate:<N>, at most N times "
+             "a second, N from 1 to 1000, and always the last; end, when the drag or the typing "
+             "ends."),
+         Texts::tr("WHEN")},
+        {kCheck, Texts::tr("List all that is wrong with the list and the values; show nothing.")},
         {kRender,
-         tr("Draw the whole panel to <PNG>, and each further tab page to a file named "
-            "after it, and print their names; show nothing."),
-         tr("PNG")},
-        {kSize, tr("Size of the window, or of the picture; a picture grows to hold the panel."),
-         tr("WxH")},
-        {kTheme, tr("Look: system (the default), light, dark or high-contrast."), tr("THEME")},
-        {kTrusted, tr("Let the list name pictures anywhere and have style sheets. Without it, its "
-                      "pictures must lie in its folder or below.")},
-        {{QStringLiteral("v"), kVersion}, tr("Print the version.")},
-        {{QStringLiteral("h"), kHelp}, tr("Print this help.")},
+         Texts::tr("Draw the whole panel to <PNG>, and each further tab page to a file named "
+                   "after it, and print their names; show nothing."),
+         Texts::tr("PNG")},
+        {kSize,
+         Texts::tr("Size of the window, or of the picture; a picture grows to hold the panel."),
+         Texts::tr("WxH")},
+        {kTheme, Texts::tr("Look: system (the default), light, dark or high-contrast."),
+         Texts::tr("THEME")},
+        {kTrusted,
+         Texts::tr("Let the list name pictures anywhere and have style sheets. Without it, its "
+                   "pictures must lie in its folder or below.")},
+        {{QStringLiteral("v"), kVersion}, Texts::tr("Print the version.")},
+        {{QStringLiteral("h"), kHelp}, Texts::tr("Print this help.")},
     });
 }
 
@@ -143,21 +147,21 @@ QString contradiction(const QCommandLineParser &parser)
 {
     const QStringList positional = parser.positionalArguments();
     if (positional.size() > 1)
-        return tr("There can be one property list only; \"%1\" is one too many.")
+        return Texts::tr("There can be one property list only; \"%1\" is one too many.")
             .arg(positional.at(1));
     if (positional.value(0, QStringLiteral("x")).isEmpty())
-        return tr("The name of the property list is empty.");
+        return Texts::tr("The name of the property list is empty.");
     const QString empty = emptyOption(parser);
     if (!empty.isEmpty())
-        return tr("--%1 needs the name of a file.").arg(empty);
+        return Texts::tr("--%1 needs the name of a file.").arg(empty);
     if (parser.isSet(kCheck) && parser.isSet(kRender))
-        return tr("--check and --render cannot be used together.");
+        return Texts::tr("--check and --render cannot be used together.");
     if (parser.isSet(kSettings) && parser.value(kSettings) == parser.value(kOutput))
-        return tr("--settings and --output cannot name the same file.");
+        return Texts::tr("--settings and --output cannot name the same file.");
     if (parser.isSet(kCommit) && !parser.isSet(kLive))
-        return tr("--commit is of use only with --live.");
+        return Texts::tr("--commit is of use only with --live.");
     if (positional.value(0) == QLatin1String("-") && parser.value(kValues) == QLatin1String("-"))
-        return tr("The list and the values cannot both come from standard input.");
+        return Texts::tr("The list and the values cannot both come from standard input.");
     return QString();
 }
 
@@ -165,10 +169,11 @@ void readSize(const QString &text, CommandLine &result)
 {
     const std::optional<QSize> size = sizeFromText(text);
     if (!size)
-        result.error = tr("\"%1\" is not a size; write width x height, such as 640x480, each "
-                          "from 1 to %2.")
-                           .arg(text)
-                           .arg(kMaximumExtent);
+        result.error =
+            Texts::tr("\"%1\" is not a size; write width x height, such as 640x480, each "
+                      "from 1 to %2.")
+                .arg(text)
+                .arg(kMaximumExtent);
     result.options.size = size.value_or(QSize());
 }
 
@@ -177,7 +182,8 @@ void readTheme(const QString &text, CommandLine &result)
     const std::optional<PanelLook> theme = themeFromText(text);
     if (!theme)
         result.error =
-            tr("There is no theme \"%1\"; choose system, light, dark or high-contrast.").arg(text);
+            Texts::tr("There is no theme \"%1\"; choose system, light, dark or high-contrast.")
+                .arg(text);
     result.options.theme = theme.value_or(PanelLook::System);
 }
 
@@ -186,9 +192,10 @@ void readCommitMode(const QString &text, CommandLine &result)
     using PropertyHost::CommitMode;
     const std::optional<CommitMode> mode = CommitMode::fromString(text);
     if (!mode)
-        result.error = tr("\"%1\" is no time for --commit; choose live, end, or rate:N with N from "
-                          "1 to 1000.")
-                           .arg(text);
+        result.error =
+            Texts::tr("\"%1\" is no time for --commit; choose live, end, or rate:N with N from "
+                      "1 to 1000.")
+                .arg(text);
     result.options.commitMode = mode.value_or(CommitMode::live());
 }
 
@@ -220,11 +227,11 @@ QString helpText()
     QCommandLineParser parser;
     describe(parser);
     return parser.helpText()
-           + tr(
+           + Texts::tr(
                "\nExit status:\n"
                "  0  the values were saved, or what else was asked for was done\n"
                "  1  the user cancelled, or nobody reads the changes of --live any more and there\n"
-               "     is neither --output nor --settings; nothing was written\n"
+               "     is neither --output nor --settings; no values were written\n"
                "  2  wrong options, an error in the list or the values, no display to show a\n"
                "     window on, or pictures that could not be written");
 }

@@ -1,5 +1,7 @@
 #include "FileReplacement.h"
 
+#include "Texts.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -17,11 +19,6 @@
 namespace Tessark::PropertyPanel {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FileReplacement", text);
-}
 
 /// The start of the names of hidden files for the file; a process adds its number.
 QString hiddenPrefix(const QFileInfo &file)
@@ -59,8 +56,8 @@ QString obstacle(const QFileInfo &file)
     if (!file.exists())
         return QString();
     if (!file.isFile())
-        return tr("it is not a file");
-    return file.isWritable() ? QString() : tr("it is write-protected");
+        return Texts::tr("it is not a file");
+    return file.isWritable() ? QString() : Texts::tr("it is write-protected");
 }
 
 /// Waits until the content is on the disk, so that its name does not get there first.

@@ -1,11 +1,11 @@
 #include "Input.h"
 
 #include "SettingsFile.h"
+#include "Texts.h"
 
 #include <host/InputFile.h>
 #include <host/PropertyListReader.h>
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace Tessark::PropertyPanel {
@@ -15,16 +15,11 @@ namespace {
 const QString kBuiltInList = QStringLiteral(":/property-panel/builtin.json");
 const QString kStandardInput = QStringLiteral("-");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Input", text);
-}
-
 QString displayName(const QString &path)
 {
     if (path == kBuiltInList)
-        return tr("built-in list");
-    return path == kStandardInput ? tr("standard input") : path;
+        return Texts::tr("built-in list");
+    return path == kStandardInput ? Texts::tr("standard input") : path;
 }
 
 /// Where the relative paths of a list start; that of standard input starts where the program does.
@@ -59,7 +54,7 @@ void readList(const QString &path, PropertyHost::ListOrigin origin, Options::Tas
     }
     note(problems, path, input);
     if (input.list.title().isEmpty())
-        input.list.setTitle(path == kStandardInput ? tr("Properties")
+        input.list.setTitle(path == kStandardInput ? Texts::tr("Properties")
                                                    : QFileInfo(path).completeBaseName());
 }
 

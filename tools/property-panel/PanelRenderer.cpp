@@ -1,6 +1,7 @@
 #include "PanelRenderer.h"
 
 #include "PictureNames.h"
+#include "Texts.h"
 #include "TextureChoices.h"
 
 #include <host/PropertyList.h>
@@ -104,8 +105,7 @@ QString obstacle(const QSize &size, double scale, const QString &path)
 {
     if (double(size.width()) * size.height() * scale * scale <= kMaximumPixels)
         return QString();
-    return QCoreApplication::translate(
-               "PanelRenderer",
+    return Texts::tr(
                "Cannot write %1: the panel takes %2 x %3 pixels, at most %4 megapixels are drawn")
         .arg(path)
         .arg(size.width() * scale)
@@ -119,8 +119,7 @@ QString writePicture(QWidget &sheet, const QString &path)
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && sheet.grab().save(&file, "PNG") && file.commit())
         return QString();
-    return QCoreApplication::translate("PanelRenderer", "Cannot write %1: %2")
-        .arg(path, file.errorString());
+    return Texts::tr("Cannot write %1: %2").arg(path, file.errorString());
 }
 
 /// Adds one more picture, unless an earlier one failed.

@@ -112,7 +112,7 @@ QSize PanelWindow::sizeHint() const
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     int height = contents.height() + 2 * kMargin;
     for (int i = 0; i < layout()->count(); ++i) {
-        const QLayoutItem &item = *layout()->itemAt(i);
+        QLayoutItem &item = *layout()->itemAt(i);
         if (!item.isEmpty() && item.widget() != m_view)
             height += item.sizeHint().height() + layout()->spacing();
     }

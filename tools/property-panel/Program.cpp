@@ -6,17 +6,13 @@
 #include "PanelRenderer.h"
 #include "PanelWindow.h"
 #include "StandardStreams.h"
+#include "Texts.h"
 
 #include <QApplication>
 
 namespace Tessark::PropertyPanel {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Program", text);
-}
 
 void printProblem(const QString &text)
 {
@@ -26,7 +22,7 @@ void printProblem(const QString &text)
 ExitStatus check(const Input &input)
 {
     if (input.problems.isEmpty())
-        printLine(tr("no problems found"));
+        printLine(Texts::tr("no problems found"));
     return input.hasErrors ? ExitStatus::BadInput : ExitStatus::Saved;
 }
 
@@ -103,8 +99,9 @@ ExitStatus runTask(const Options &options, Display display)
         return render(input, options);
     if (display == Display::Present)
         return edit(input, options, writer);
-    printProblem(tr("There is no display to show a window on. Use --render to draw the panel to "
-                    "PNG files, or --check to look for problems only."));
+    printProblem(
+        Texts::tr("There is no display to show a window on. Use --render to draw the panel to "
+                  "PNG files, or --check to look for problems only."));
     return ExitStatus::BadInput;
 }
 
@@ -115,7 +112,7 @@ ExitStatus runProgram(const QStringList &arguments, Display display)
     const CommandLine commandLine = parseCommandLine(arguments);
     if (!commandLine.error.isEmpty()) {
         printProblem(commandLine.error);
-        printError(tr("Try property-panel --help."));
+        printError(Texts::tr("Try property-panel --help."));
         return ExitStatus::BadInput;
     }
     switch (commandLine.options.task) {

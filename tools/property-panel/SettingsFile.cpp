@@ -1,6 +1,7 @@
 #include "SettingsFile.h"
 
 #include "FileReplacement.h"
+#include "Texts.h"
 
 #include <host/InputFile.h>
 #include <host/PropertyList.h>
@@ -8,7 +9,6 @@
 #include <property/Property.h>
 #include <property/PropertyVocabulary.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -24,11 +24,6 @@ namespace Tessark::PropertyPanel {
 using PropertyHost::Problem;
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("SettingsFile", text);
-}
 
 /// Qt 5 takes INI files for Latin-1 unless told otherwise, Qt 6 always for UTF-8.
 template <typename Settings>
@@ -69,8 +64,8 @@ public:
         useUtf8(*m_settings, 0);
         m_settings->allKeys(); // reads
         if (m_settings->status() != QSettings::NoError)
-            m_error =
-                tr("is not an INI file: each line must be a [group], name=value or a ; comment");
+            m_error = Texts::tr(
+                "is not an INI file: each line must be a [group], name=value or a ; comment");
     }
 
     /// Why there are no settings, in words that go on after the name of the file; empty if there are.
@@ -85,7 +80,7 @@ public:
         QFile copy(m_settings->fileName());
         const bool isOpen = copy.open(QIODevice::ReadOnly);
         if (m_settings->status() != QSettings::NoError || (!isOpen && copy.exists()))
-            m_error = tr("a copy cannot be made in %1").arg(m_folder.path());
+            m_error = Texts::tr("a copy cannot be made in %1").arg(m_folder.path());
         return isOpen ? copy.readAll() : QByteArray();
     }
 
@@ -144,7 +139,7 @@ QString replaceByCopy(const QString &path, WorkingCopy &copy)
 {
     const QByteArray content = copy.error().isEmpty() ? copy.content() : QByteArray();
     const QString error = copy.error().isEmpty() ? replaceFile(path, content) : copy.error();
-    return error.isEmpty() ? QString() : tr("Cannot write %1: %2").arg(path, error);
+    return error.isEmpty() ? QString() : Texts::tr("Cannot write %1: %2").arg(path, error);
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 
 #include "FileReplacement.h"
 #include "StandardStreams.h"
+#include "Texts.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
@@ -14,23 +14,18 @@ namespace Tessark::PropertyPanel {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ValuesWriter", text);
-}
-
 QString writeToStandardOutput(const QByteArray &data)
 {
     QString error;
     if (writeStandardOutput(data, &error))
         return QString();
-    return tr("Cannot write to standard output: %1").arg(error);
+    return Texts::tr("Cannot write to standard output: %1").arg(error);
 }
 
 QString writeToFile(const QString &path, const QByteArray &data)
 {
     const QString error = replaceFile(path, data);
-    return error.isEmpty() ? QString() : tr("Cannot write %1: %2").arg(path, error);
+    return error.isEmpty() ? QString() : Texts::tr("Cannot write %1: %2").arg(path, error);
 }
 
 /// Tells contents of a file apart; empty when there is no file.

@@ -1,3 +1,4 @@
+#include "Language.h"
 #include "Program.h"
 #include "StandardStreams.h"
 
@@ -16,5 +17,6 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("property-panel"));
     QApplication::setApplicationVersion(QStringLiteral(TESSARK_VERSION));
+    followUserLanguage();
     return static_cast<int>(runProgram(QApplication::arguments(), currentDisplay(choice)));
 }

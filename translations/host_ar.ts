@@ -2,6 +2,31 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_EG">
 <context>
+    <name>Tessark::PropertyHost::DefaultMark</name>
+    <message>
+        <source>Set to Default</source>
+        <translation>تعيين القيمة الافتراضية</translation>
+    </message>
+    <message>
+        <source>Set %1 to Default</source>
+        <translation>تعيين القيمة الافتراضية لـ %1</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::MixedPainter</name>
+    <message>
+        <source>Several values</source>
+        <translation>قيم متعددة</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::MixedRows</name>
+    <message>
+        <source>The selected objects have different values.</source>
+        <translation>للكائنات المحددة قيم مختلفة.</translation>
+    </message>
+</context>
+<context>
     <name>Tessark::PropertyHost::NumberExpression</name>
     <message numerus="yes">
         <source>The expression is longer than %n characters</source>
@@ -75,6 +100,115 @@
     <message>
         <source>= %1 (smallest)</source>
         <translation>= %1 (الأصغر)</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::OperandDialog</name>
+    <message>
+        <source>Add to Each</source>
+        <translation>إضافة إلى كل كائن</translation>
+    </message>
+    <message>
+        <source>Multiply Each</source>
+        <translation>ضرب كل كائن</translation>
+    </message>
+    <message>
+        <source>Add to %1 of each selected object:</source>
+        <translation>القيمة المضافة إلى %1 لكل كائن محدد:</translation>
+    </message>
+    <message>
+        <source>Multiply %1 of each selected object by:</source>
+        <translation>ضرب %1 لكل كائن محدد في:</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::RowMenu</name>
+    <message>
+        <source>Copy &amp;Name</source>
+        <translation>نسخ الا&amp;سم</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Set to &amp;Default</source>
+        <translation>تعيين القيمة ال&amp;افتراضية</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;لصق</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Each...</source>
+        <translation>إ&amp;ضافة إلى كل كائن...</translation>
+    </message>
+    <message>
+        <source>&amp;Multiply Each...</source>
+        <translation>&amp;ضرب كل كائن...</translation>
+    </message>
+    <message>
+        <source>Set to Default</source>
+        <translation>تعيين القيمة الافتراضية</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::SearchBar</name>
+    <message>
+        <source>No matches</source>
+        <translation>لا توجد نتائج</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>match, all matches</comment>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>1 match</source>
+        <translation>نتيجة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches</source>
+        <translation>
+            <numerusform>%n نتيجة</numerusform>
+            <numerusform>%n نتيجة</numerusform>
+            <numerusform>%n نتيجة</numerusform>
+            <numerusform>%n نتائج</numerusform>
+            <numerusform>%n نتيجة</numerusform>
+            <numerusform>%n نتيجة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Only changed</source>
+        <translation>المتغيرة فقط</translation>
+    </message>
+    <message>
+        <source>Shows only rows whose value is not the default</source>
+        <translation>يعرض الصفوف التي تختلف قيمتها عن القيمة الافتراضية فقط</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>إغلاق البحث</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::SearchTabs</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>tab, matches on it</comment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,31 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>Tessark::PropertyHost::DefaultMark</name>
+    <message>
+        <source>Set to Default</source>
+        <translation>Auf Standardwert setzen</translation>
+    </message>
+    <message>
+        <source>Set %1 to Default</source>
+        <translation>%1 auf Standardwert setzen</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::MixedPainter</name>
+    <message>
+        <source>Several values</source>
+        <translation>Mehrere Werte</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::MixedRows</name>
+    <message>
+        <source>The selected objects have different values.</source>
+        <translation>Die ausgewählten Objekte haben verschiedene Werte.</translation>
+    </message>
+</context>
+<context>
     <name>Tessark::PropertyHost::NumberExpression</name>
     <message numerus="yes">
         <source>The expression is longer than %n characters</source>
@@ -67,6 +92,111 @@
     <message>
         <source>= %1 (smallest)</source>
         <translation>= %1 (kleinster Wert)</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::OperandDialog</name>
+    <message>
+        <source>Add to Each</source>
+        <translation>Zu jedem addieren</translation>
+    </message>
+    <message>
+        <source>Multiply Each</source>
+        <translation>Jeden multiplizieren</translation>
+    </message>
+    <message>
+        <source>Add to %1 of each selected object:</source>
+        <translation>Zu %1 jedes ausgewählten Objekts addieren:</translation>
+    </message>
+    <message>
+        <source>Multiply %1 of each selected object by:</source>
+        <translation>%1 jedes ausgewählten Objekts multiplizieren mit:</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::RowMenu</name>
+    <message>
+        <source>Copy &amp;Name</source>
+        <translation>&amp;Namen kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Set to &amp;Default</source>
+        <translation>Auf Stan&amp;dardwert setzen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Each...</source>
+        <translation>Zu jedem &amp;addieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Multiply Each...</source>
+        <translation>Jeden &amp;multiplizieren ...</translation>
+    </message>
+    <message>
+        <source>Set to Default</source>
+        <translation>Auf Standardwert setzen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::SearchBar</name>
+    <message>
+        <source>No matches</source>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>match, all matches</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>1 match</source>
+        <translation>1 Treffer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches</source>
+        <translation>
+            <numerusform>%n Treffer</numerusform>
+            <numerusform>%n Treffer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Only changed</source>
+        <translation>Nur geänderte</translation>
+    </message>
+    <message>
+        <source>Shows only rows whose value is not the default</source>
+        <translation>Zeigt nur Zeilen, deren Wert nicht der Standardwert ist</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>Suche schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::SearchTabs</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>tab, matches on it</comment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

@@ -18,4 +18,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>Tessark::PropertyHost::SearchBar</name>
+    <message numerus="yes">
+        <source>%n matches</source>
+        <translation>
+            <numerusform>%n match</numerusform>
+            <numerusform>%n matches</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

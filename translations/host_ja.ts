@@ -2,6 +2,31 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP">
 <context>
+    <name>Tessark::PropertyHost::DefaultMark</name>
+    <message>
+        <source>Set to Default</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Set %1 to Default</source>
+        <translation>%1 を既定値に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::MixedPainter</name>
+    <message>
+        <source>Several values</source>
+        <translation>複数の値</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::MixedRows</name>
+    <message>
+        <source>The selected objects have different values.</source>
+        <translation>選択したオブジェクトの値は異なります。</translation>
+    </message>
+</context>
+<context>
     <name>Tessark::PropertyHost::NumberExpression</name>
     <message numerus="yes">
         <source>The expression is longer than %n characters</source>
@@ -65,6 +90,110 @@
     <message>
         <source>= %1 (smallest)</source>
         <translation>= %1 (最小)</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::OperandDialog</name>
+    <message>
+        <source>Add to Each</source>
+        <translation>それぞれに加算</translation>
+    </message>
+    <message>
+        <source>Multiply Each</source>
+        <translation>それぞれを乗算</translation>
+    </message>
+    <message>
+        <source>Add to %1 of each selected object:</source>
+        <translation>選択した各オブジェクトの %1 に加算する値:</translation>
+    </message>
+    <message>
+        <source>Multiply %1 of each selected object by:</source>
+        <translation>選択した各オブジェクトの %1 に掛ける値:</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::RowMenu</name>
+    <message>
+        <source>Copy &amp;Name</source>
+        <translation>名前をコピー(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Set to &amp;Default</source>
+        <translation>既定値に戻す(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Each...</source>
+        <translation>それぞれに加算(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Multiply Each...</source>
+        <translation>それぞれを乗算(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Set to Default</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::SearchBar</name>
+    <message>
+        <source>No matches</source>
+        <translation>一致なし</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>match, all matches</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>1 match</source>
+        <translation>1 件一致</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches</source>
+        <translation>
+            <numerusform>%n 件一致</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Only changed</source>
+        <translation>変更済みのみ</translation>
+    </message>
+    <message>
+        <source>Shows only rows whose value is not the default</source>
+        <translation>既定値でない行だけを表示します</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>検索を閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>Tessark::PropertyHost::SearchTabs</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>tab, matches on it</comment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

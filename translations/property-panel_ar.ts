@@ -103,10 +103,6 @@
         <translation>WxH</translation>
     </message>
     <message>
-        <source>Look: system (the default), light or dark.</source>
-        <translation>المظهر: system (الافتراضي) أو light أو dark.</translation>
-    </message>
-    <message>
         <source>THEME</source>
         <translation>THEME</translation>
     </message>
@@ -153,10 +149,6 @@
     <message>
         <source>&quot;%1&quot; is not a size; write width x height, such as 640x480, each from 1 to %2.</source>
         <translation>&quot;%1&quot; ليس حجمًا؛ اكتب العرض x الارتفاع، مثل 640x480، وكل منهما من 1 إلى %2.</translation>
-    </message>
-    <message>
-        <source>There is no theme &quot;%1&quot;; choose system, light or dark.</source>
-        <translation>لا يوجد مظهر &quot;%1&quot;؛ اختر system أو light أو dark.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time for --commit; choose live, end, or rate:N with N from 1 to 1000.</source>
@@ -234,6 +226,14 @@ Exit status:
         <source>LTR</source>
         <comment>RTL in languages that are read from right to left</comment>
         <translation>RTL</translation>
+    </message>
+    <message>
+        <source>Look: system (the default), light, dark or high-contrast.</source>
+        <translation>المظهر: system (الافتراضي) أو light أو dark أو high-contrast.</translation>
+    </message>
+    <message>
+        <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
+        <translation>لا يوجد مظهر &quot;%1&quot;؛ اختر system أو light أو dark أو high-contrast.</translation>
     </message>
 </context>
 </TS>

@@ -103,10 +103,6 @@
         <translation>BxH</translation>
     </message>
     <message>
-        <source>Look: system (the default), light or dark.</source>
-        <translation>Aussehen: system (Standard), light oder dark.</translation>
-    </message>
-    <message>
         <source>THEME</source>
         <translation>THEMA</translation>
     </message>
@@ -153,10 +149,6 @@
     <message>
         <source>&quot;%1&quot; is not a size; write width x height, such as 640x480, each from 1 to %2.</source>
         <translation>„%1“ ist keine Größe; schreiben Sie Breite x Höhe, etwa 640x480, jeweils von 1 bis %2.</translation>
-    </message>
-    <message>
-        <source>There is no theme &quot;%1&quot;; choose system, light or dark.</source>
-        <translation>Es gibt kein Thema „%1“; wählen Sie system, light oder dark.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time for --commit; choose live, end, or rate:N with N from 1 to 1000.</source>
@@ -234,6 +226,14 @@ Rückgabewert:
         <source>LTR</source>
         <comment>RTL in languages that are read from right to left</comment>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Look: system (the default), light, dark or high-contrast.</source>
+        <translation>Aussehen: system (Standard), light, dark oder high-contrast.</translation>
+    </message>
+    <message>
+        <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
+        <translation>Es gibt kein Thema „%1“; wählen Sie system, light, dark oder high-contrast.</translation>
     </message>
 </context>
 </TS>

@@ -103,10 +103,6 @@
         <translation>LxH</translation>
     </message>
     <message>
-        <source>Look: system (the default), light or dark.</source>
-        <translation>Apparence : system (par défaut), light ou dark.</translation>
-    </message>
-    <message>
         <source>THEME</source>
         <translation>THÈME</translation>
     </message>
@@ -153,10 +149,6 @@
     <message>
         <source>&quot;%1&quot; is not a size; write width x height, such as 640x480, each from 1 to %2.</source>
         <translation>« %1 » n’est pas une taille ; écrivez largeur x hauteur, par exemple 640x480, chacune de 1 à %2.</translation>
-    </message>
-    <message>
-        <source>There is no theme &quot;%1&quot;; choose system, light or dark.</source>
-        <translation>Il n’y a pas de thème « %1 » ; choisissez system, light ou dark.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time for --commit; choose live, end, or rate:N with N from 1 to 1000.</source>
@@ -234,6 +226,14 @@ Code de sortie :
         <source>LTR</source>
         <comment>RTL in languages that are read from right to left</comment>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Look: system (the default), light, dark or high-contrast.</source>
+        <translation>Apparence : system (par défaut), light, dark ou high-contrast.</translation>
+    </message>
+    <message>
+        <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
+        <translation>Il n’y a pas de thème « %1 » ; choisissez system, light, dark ou high-contrast.</translation>
     </message>
 </context>
 </TS>

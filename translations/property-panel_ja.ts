@@ -103,10 +103,6 @@
         <translation>WxH</translation>
     </message>
     <message>
-        <source>Look: system (the default), light or dark.</source>
-        <translation>外観: system (既定)、light、dark のいずれか。</translation>
-    </message>
-    <message>
         <source>THEME</source>
         <translation>THEME</translation>
     </message>
@@ -153,10 +149,6 @@
     <message>
         <source>&quot;%1&quot; is not a size; write width x height, such as 640x480, each from 1 to %2.</source>
         <translation>&quot;%1&quot; はサイズではありません。640x480 のように幅 x 高さを、それぞれ 1 から %2 で指定してください。</translation>
-    </message>
-    <message>
-        <source>There is no theme &quot;%1&quot;; choose system, light or dark.</source>
-        <translation>&quot;%1&quot; というテーマはありません。system、light、dark のいずれかを選んでください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time for --commit; choose live, end, or rate:N with N from 1 to 1000.</source>
@@ -234,6 +226,14 @@ Exit status:
         <source>LTR</source>
         <comment>RTL in languages that are read from right to left</comment>
         <translation>LTR</translation>
+    </message>
+    <message>
+        <source>Look: system (the default), light, dark or high-contrast.</source>
+        <translation>外観: system (既定)、light、dark、high-contrast のいずれか。</translation>
+    </message>
+    <message>
+        <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
+        <translation>&quot;%1&quot; というテーマはありません。system、light、dark、high-contrast のいずれかを選んでください。</translation>
     </message>
 </context>
 </TS>

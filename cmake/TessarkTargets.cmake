@@ -108,23 +108,26 @@ function(tessark_add_library name)
 endfunction()
 
 # tessark_add_test(<folder>/tst_<X> [LINK ...] [SOURCES ...])
-# One Qt Test program per file, run on the offscreen platform. The file has its test class in it and
-# includes tst_<X>.moc at the end. That is made by hand: for some two hundred programs of one file each,
-# AUTOMOC takes longer than the compiler.
+# One Qt Test program per file, run on the offscreen platform. A source with a class for moc includes its
+# moc file at the end. That is made by hand: for some two hundred programs of one file each, AUTOMOC takes
+# longer than the compiler.
 function(tessark_add_test path)
     cmake_parse_arguments(arg "" "" "LINK;SOURCES" ${ARGN})
     get_filename_component(name ${path} NAME)
     add_executable(${name} ${path}.cpp ${arg_SOURCES})
     tessark_common(${name})
-    set(moc_folder ${CMAKE_CURRENT_BINARY_DIR}/moc)
+    set(moc_folder ${CMAKE_CURRENT_BINARY_DIR}/moc/${name})
     target_include_directories(${name} PRIVATE
         ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests ${moc_folder})
     target_link_libraries(${name} PRIVATE
         ${arg_LINK} Tessark::Property Qt${TESSARK_QT_MAJOR}::Test)
-    file(STRINGS ${path}.cpp moc_include REGEX "#include \"${name}\\.moc\"")
-    if(moc_include)
-        tessark_generate_moc(${path}.cpp ${moc_folder}/${name}.moc ${name})
-    endif()
+    foreach(source IN ITEMS ${path}.cpp ${arg_SOURCES})
+        get_filename_component(moc ${source} NAME_WE)
+        file(STRINGS ${source} moc_include REGEX "#include \"${moc}\\.moc\"")
+        if(moc_include)
+            tessark_generate_moc(${source} ${moc_folder}/${moc}.moc ${name})
+        endif()
+    endforeach()
     add_test(NAME ${path} COMMAND ${name})
     tessark_set_test_environment(${path} TIMEOUT 300)
 endfunction()

@@ -84,7 +84,7 @@ bool PanelDriver::dragNear(const QString &row, double number)
 
 bool PanelDriver::type(const QString &row, const QString &text, Ending ending)
 {
-    return finish("type in", row, m_user->type(row, text, ending));
+    return finish("type in", row, m_user->type(row, text, ending == WithReturn));
 }
 
 bool PanelDriver::step(const QString &row, int steps)

@@ -252,7 +252,7 @@ QString PanelUser::moveHandle(const DriverTarget &target, const NumberPart &part
         .arg(valueText(part.numberAt(part.slider->value())));
 }
 
-QString PanelUser::type(const QString &name, const QString &text, PanelDriver::Ending ending) const
+QString PanelUser::type(const QString &name, const QString &text, bool withReturn) const
 {
     DriverTarget target;
     QString problem = takeRow(name, &target);
@@ -277,7 +277,7 @@ QString PanelUser::type(const QString &name, const QString &text, PanelDriver::E
     if (text.isEmpty())
         pressKey(window, Qt::Key_Delete);
     typeText(window, text);
-    if (ending == PanelDriver::WithReturn && !hasLines)
+    if (withReturn && !hasLines)
         typeText(window, QStringLiteral("\n"));
     return lost(target);
 }

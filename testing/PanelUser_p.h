@@ -1,6 +1,5 @@
 #pragma once
 
-#include "testing/PanelDriver.h"
 #include "testing/PanelMap_p.h"
 #include "testing/RowParts_p.h"
 
@@ -45,7 +44,7 @@ public:
     QString findMarker(const QString &type, const QString &title, DriverTarget *target) const;
 
     QString drag(const QString &name, double number, Aim aim) const;
-    QString type(const QString &name, const QString &text, PanelDriver::Ending ending) const;
+    QString type(const QString &name, const QString &text, bool withReturn) const;
     QString step(const QString &name, int steps) const;
     QString wheel(const QString &name, int notches) const;
     QString check(const QString &name, bool checked) const;

@@ -103,7 +103,9 @@ void checkLaws(const NumberExpression &expression, const QString &text, const Nu
 /// The first bytes decide about the field, the others are the text.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const QLocale s_german(QLocale::German); // which has a decimal comma
+    // The first has a decimal comma, the other one a point. Mistakes are told in the same language.
+    static const QLocale s_german(QLocale::German, QLocale::Germany);
+    static const QLocale s_swiss(QLocale::German, QLocale::Switzerland);
     QLocale::setDefault(s_german);
     FuzzInput input(data, size);
     FuzzInput field = input.take(kBytesOfField);
@@ -117,7 +119,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         checkValue(expression, scope);
     else
         checkMistake(expression, text);
-    QLocale::setDefault(QLocale::c());
+    QLocale::setDefault(s_swiss);
     require(isSame(expression, NumberExpression(text, scope)), "the locale is not read");
     require(text.size() <= kMostCharacters || !expression.isValid(), "a text has a limit");
     if (expression.isValid())

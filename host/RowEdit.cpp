@@ -56,14 +56,19 @@ RowEdit::RowEdit(const DelegateChain &delegates)
 void RowEdit::setToDefault(const PanelRow &row) const
 {
     m_delegates.flush();
-    const QPointer<PropertyEditor> editor = row.editor;
-    SelectionDelegate *const selection = editor ? m_delegates.selection() : nullptr;
-    const QVariant value = editor ? row.property->defaultValue : QVariant();
-    if (selection && selection->setToDefault(row.property)) {
+    SelectionDelegate *const selection = row.editor ? m_delegates.selection() : nullptr;
+    if (selection && selection->setToDefault(row.property))
         show(row);
-        return;
-    }
-    if (value.isNull() || !editor)
+    else
+        setToOwnDefault(row);
+}
+
+/// The one of the property.
+void RowEdit::setToOwnDefault(const PanelRow &row)
+{
+    const QPointer<PropertyEditor> editor = row.editor;
+    const QVariant value = editor ? row.property->defaultValue : QVariant();
+    if (value.isNull())
         return;
     showIn(*editor, value);
     // A default that the fields cannot hold would else remain one that the row differs from.

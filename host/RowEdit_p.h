@@ -35,6 +35,7 @@ public:
     void asOneStep(const QString &name, const std::function<void()> &edits) const;
 
 private:
+    static void setToOwnDefault(const PanelRow &row);
     void show(const PanelRow &row) const;
 
     DelegateChain m_delegates;

@@ -772,8 +772,7 @@ void tst_RowMenu::operandIsCheckedWhileTyped()
     QVERIFY(isAccepted());
 
     QTest::keyClick(dialog, Qt::Key_Escape);
-    settleEvents();
-    QVERIFY(!m_bench->view->findChild<QDialog *>());
+    QTRY_VERIFY(!m_bench->view->findChild<QDialog *>());
     QCOMPARE(m_bench->stack.count(), 0);
 }
 

@@ -1251,14 +1251,14 @@ void tst_SelectionDelegate::menuGivesADefaultThatTheBlanksHold()
         [](PropertyList &list) {
             list.vec2(QStringLiteral("x"), QString())
                 .range(QVector2D(-9, -9), QVector2D(9, 9))
-                .defaultValue(QVector2D(0, 0));
+                .defaultValue(QVector2D(0, 1)); // all zeros are no default with Qt 5
         },
         {QVector2D(1, 2), QVector2D(3, 4)});
     showPanel();
 
     pickDefault();
 
-    QCOMPARE(values(), QVector<QVariant>({QVector2D(0, 0), QVector2D(0, 0)}));
+    QCOMPARE(values(), QVector<QVariant>({QVector2D(0, 1), QVector2D(0, 1)}));
     QCOMPARE(m_stack->count(), 1);
     QVERIFY(!m_selection->isMixed(x()));
     QCOMPARE(control<QDoubleSpinBox>()->value(), 0.0);

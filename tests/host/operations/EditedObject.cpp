@@ -26,7 +26,7 @@ QHash<QString, QVariant> initialValues()
             {kOn, false},
             {kTitle, QStringLiteral("new")},
             {kMode, 0},
-            {kPlace, vector(0, 0)}};
+            {kPlace, vector(0, 1)}}; // all zeros are no default with Qt 5
 }
 
 void setRanges(const EditedObject &object)
@@ -120,7 +120,7 @@ struct Parameters
     bool on = false;
     QString title = QStringLiteral("new");
     Mode mode = Mode::Slow;
-    QVector2D place;
+    QVector2D place{0, 1};
 };
 
 class StructObject final : public EditedObject
@@ -218,7 +218,7 @@ private:
     int m_count = 5;
     bool m_on = false;
     QString m_title = QStringLiteral("new");
-    QVector2D m_place;
+    QVector2D m_place{0, 1};
 };
 
 class BoundObject final : public EditedObject

@@ -721,7 +721,8 @@ bool SelectionDelegate::readState(Property *property)
         return false;
     const MixedState state = stateOf(*property, *values);
     const auto isDefault = [](const Target &target, const QVariant &value) {
-        return !PropertyHost::differsFromDefault(*target.property, value);
+        // An object may have gone, with its property, when another one was asked.
+        return !target.isAlive() || !PropertyHost::differsFromDefault(*target.property, value);
     };
     row->differsFromDefault =
         !std::equal(targets.cbegin(), targets.cend(), values->cbegin(), isDefault);

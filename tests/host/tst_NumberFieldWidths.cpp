@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QVector3D>
 
+#include <utility>
+
 using namespace Tessark::PropertyHost;
 using namespace Tessark::PropertyUI;
 
@@ -134,7 +136,7 @@ void tst_NumberFieldWidths::replacedPanelIsFitted()
 {
     addGain(0, 1);
     show();
-    m_list = PropertyList();
+    const PropertyList before = std::exchange(m_list, PropertyList());
     addGain(-1000, 1000).suffix(QStringLiteral(" dB"));
 
     QVERIFY(missing(*show()) < 0);

@@ -3,6 +3,7 @@
 #include <property/PropertyLayout.h>
 
 #include <QEvent>
+#include <QHash>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 
@@ -48,6 +49,17 @@ int frameWidth(const QDoubleSpinBox &box)
     return option.rect.width() - field.width() + kTextMargins;
 }
 
+/// Of a field that is the only one of its row, the page that the row lies on: such fields stand below one
+/// another there. Null for others.
+const QWidget *pageOfOnlyField(const QDoubleSpinBox &box)
+{
+    const QWidget *row = box.parentWidget();
+    while (row && !isWholeRow(*row))
+        row = row->parentWidget();
+    const bool isOnly = row && row->findChildren<QDoubleSpinBox *>().size() == 1;
+    return isOnly ? row->parentWidget() : nullptr;
+}
+
 int wantedWidth(const QDoubleSpinBox &box)
 {
     return frameWidth(box) + std::max(textWidth(box, box.minimum()), textWidth(box, box.maximum()));
@@ -62,7 +74,7 @@ NumberFieldWidths::NumberFieldWidths(QWidget *panel)
     for (QDoubleSpinBox *const box : boxes) {
         if (!isFixed(*box) || isWholeRow(*box))
             continue;
-        m_fields.push_back({box, box->minimumWidth()});
+        m_fields.push_back({box, pageOfOnlyField(*box), box->minimumWidth()});
         box->installEventFilter(this);
     }
     update();
@@ -87,12 +99,19 @@ bool NumberFieldWidths::eventFilter(QObject *watched, QEvent *event)
 void NumberFieldWidths::update()
 {
     m_isPending = false;
-    for (const Field &field : m_fields) {
+    QHash<const QWidget *, int> widest; // by page
+    for (Field &field : m_fields) {
         if (!field.box)
             continue;
         field.box->ensurePolished();
-        field.box->setFixedSize(std::max(field.smallest, wantedWidth(*field.box)),
-                                field.box->sizeHint().height());
+        field.width = std::max(field.smallest, wantedWidth(*field.box));
+        if (field.page)
+            widest[field.page] = std::max(widest.value(field.page), field.width);
+    }
+    for (const Field &field : m_fields) {
+        if (field.box)
+            field.box->setFixedSize(widest.value(field.page, field.width),
+                                    field.box->sizeHint().height());
     }
 }
 

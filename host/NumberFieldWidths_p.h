@@ -10,7 +10,8 @@ namespace Tessark::PropertyHost {
 
 /**
  * Keeps the fields of a panel that have a fixed size from cutting off their numbers: they become wide
- * enough for the longest one of their range, and as high as the font asks for. None becomes narrower
+ * enough for the longest one of their range, and as high as the font asks for. Those that are the only ones
+ * of their rows are equally wide on a page, so that what is beside them ends at one line. None becomes narrower
  * than it was. Fields that are whole rows stay as they are: their size may be the host's.
  */
 class NumberFieldWidths : public QObject
@@ -33,7 +34,9 @@ private:
     struct Field
     {
         QPointer<QDoubleSpinBox> box;
-        int smallest = 0; // width
+        const QWidget *page = nullptr; // of fields that share a width; it may be gone
+        int smallest = 0;              // width
+        int width = 0;                 // that its own numbers need
     };
 
     std::vector<Field> m_fields;

@@ -1,7 +1,7 @@
 #include "host/PanelSearch_p.h"
 
-#include "host/RowTexts_p.h"
 #include "host/SearchText_p.h"
+#include "host/SearchedTexts_p.h"
 
 #include <property/Property.h>
 

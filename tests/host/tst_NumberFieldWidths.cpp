@@ -7,6 +7,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QTest>
+#include <QVector2D>
 #include <QVector3D>
 
 #include <utility>
@@ -23,6 +24,7 @@ private Q_SLOTS:
 
     void longNumbersFit();
     void shortNumbersHaveThePanelsWidth();
+    void fieldsOfAPageAreEquallyWide();
     void plainPanelStaysAsItIs();
     void everyNumberOfARowFits();
     void changedSuffixFits();
@@ -83,6 +85,21 @@ void tst_NumberFieldWidths::shortNumbersHaveThePanelsWidth()
     const auto *const box = show();
 
     QTRY_COMPARE(box->width(), 70);
+}
+
+void tst_NumberFieldWidths::fieldsOfAPageAreEquallyWide()
+{
+    addGain(-1000, 1000).suffix(QStringLiteral(" dB"));
+    m_list.number(QStringLiteral("mix"), QStringLiteral("Mix")).range(0, 1);
+    m_list.vec2(QStringLiteral("aim"), QStringLiteral("Aim"))
+        .range(QVector2D(0, 0), QVector2D(1, 1))
+        .showSliders();
+    show();
+
+    const auto boxes = m_view->findChildren<QDoubleSpinBox *>();
+    QCOMPARE(boxes.size(), 4);
+    QCOMPARE(boxes.at(0)->width(), boxes.at(1)->width());
+    QVERIFY(boxes.at(2)->width() < boxes.at(1)->width());
 }
 
 void tst_NumberFieldWidths::plainPanelStaysAsItIs()

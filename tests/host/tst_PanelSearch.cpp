@@ -6,6 +6,7 @@
 
 #include <property/PropertyUI.h>
 
+#include <support/Events.h>
 #include <support/RecordingDelegate.h>
 
 #include <QCheckBox>
@@ -27,6 +28,8 @@
 
 using namespace Tessark::PropertyHost;
 using namespace Tessark::PropertyUI;
+using TestSupport::EventWatch;
+using TestSupport::settleEvents;
 
 namespace {
 
@@ -36,39 +39,6 @@ QString name(const char *text)
 {
     return QString::fromUtf8(text);
 }
-
-void settle()
-{
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
-
-/// Does something, once, when the widget gets an event of the type.
-class Watcher final : public QObject
-{
-public:
-    Watcher(QWidget *widget, QEvent::Type type, std::function<void()> act)
-        : m_type(type)
-        , m_act(std::move(act))
-    {
-        widget->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != m_type || !m_act)
-            return false;
-        const QPointer<QObject> receiver(watched);
-        std::exchange(m_act, nullptr)();
-        return !receiver; // it must not get the event then
-    }
-
-private:
-    QEvent::Type m_type;
-    std::function<void()> m_act;
-};
 
 } // namespace
 
@@ -181,7 +151,7 @@ void tst_PanelSearch::show(IPropertyEditorDelegate *delegate)
     m_view->show();
     m_view->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
-    settle();
+    settleEvents();
 }
 
 void tst_PanelSearch::addRows(const char *prefix, int count)
@@ -277,7 +247,7 @@ void tst_PanelSearch::openByKey()
 void tst_PanelSearch::type(const char *text)
 {
     QTest::keyClicks(searchField(), QLatin1String(text));
-    settle();
+    settleEvents();
 }
 
 void tst_PanelSearch::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
@@ -286,7 +256,7 @@ void tst_PanelSearch::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     QTest::keyPress(window, key, modifiers);
     if (window) // the key may have deleted it
         QTest::keyRelease(window, key, modifiers);
-    settle();
+    settleEvents();
 }
 
 /// The frame around the current match: what lies over its page and lets the mouse through.
@@ -405,7 +375,7 @@ void tst_PanelSearch::findsWhatARowIsKnownBy()
 
     QFETCH(QString, search);
     QTest::keyClicks(searchField(), search);
-    settle();
+    settleEvents();
 
     QTEST(shown(), "rows");
 }
@@ -427,7 +397,7 @@ void tst_PanelSearch::typingNarrowsAndWidens()
     press(Qt::Key_Backspace);
     QCOMPARE(shown(), (QStringList{name("a"), name("b")}));
     searchField()->findChild<QToolButton *>()->click(); // clears
-    settle();
+    settleEvents();
     QCOMPARE(shown(), (QStringList{name("a"), name("b"), name("c")}));
     QVERIFY(label(name("Beta:"))->isVisible());
 }
@@ -584,7 +554,7 @@ void tst_PanelSearch::escapeGivesBackPlaceAndFocus()
 
     QCOMPARE(scrollBar()->value(), 371);
     QVERIFY(field(name("row20"))->hasFocus());
-    settle();
+    settleEvents();
     QCOMPARE(scrollBar()->value(), 371);
 }
 
@@ -627,7 +597,7 @@ void tst_PanelSearch::closeButtonClosesToo()
     auto *const bar = searchField()->parentWidget();
     QTest::mouseClick(bar->findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly),
                       Qt::LeftButton);
-    settle();
+    settleEvents();
 
     QVERIFY(!bar->isVisible());
     QCOMPARE(shown().size(), 3);
@@ -646,7 +616,7 @@ void tst_PanelSearch::editsAndFoldingOfTheUserStay()
     QTest::keyClick(field(name("a")), Qt::Key_Return);
     QTest::mouseClick(field(name("H")), Qt::LeftButton, Qt::NoModifier,
                       QPoint(8, field(name("H"))->height() / 2));
-    settle();
+    settleEvents();
     QVERIFY(!isShown("b"));
     QVERIFY(!m_view->isGroupOpen(property(name("H"))));
     searchField()->setFocus();
@@ -674,7 +644,7 @@ void tst_PanelSearch::delegateIsNotTold()
     press(Qt::Key_Down);
     QVERIFY(isShown("t"));
     onlyChanged()->click();
-    settle();
+    settleEvents();
     press(Qt::Key_Escape);
 
     QCOMPARE(delegate.log(), QStringList());
@@ -792,7 +762,7 @@ void tst_PanelSearch::currentMatchIsMarkedAndInView()
         QRect(field(name("row39"))->mapTo(viewport, QPoint()), field(name("row39"))->size())));
 
     m_view->resize(600, 300);
-    settle();
+    settleEvents();
     QCOMPARE(markedRow(), name("row39")); // it follows
     type("3");
     QCOMPARE(markedRow(), name("row39"));
@@ -815,7 +785,7 @@ void tst_PanelSearch::rulesHoldWhileSearching()
 
     QTest::mouseClick(field(name("on")), Qt::LeftButton, Qt::NoModifier,
                       QPoint(8, field(name("on"))->height() / 2));
-    settle();
+    settleEvents();
     QCOMPARE(shown(), (QStringList{name("on"), name("r"), name("G"), name("s")}));
     QCOMPARE(count(), name("3 matches"));
 
@@ -823,7 +793,7 @@ void tst_PanelSearch::rulesHoldWhileSearching()
     QTest::mouseClick(field(name("G")), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
     m_store->setValue(property(name("on")), false, IPropertyEditorDelegate::NewChange);
     m_view->updateUI();
-    settle();
+    settleEvents();
     QCOMPARE(shown(), QStringList());
     QCOMPARE(count(), name("No matches"));
     m_view->closeSearch();
@@ -862,7 +832,7 @@ void tst_PanelSearch::onlyChangedShowsChangedRows()
 
     QTest::mouseClick(onlyChanged(), Qt::LeftButton, Qt::NoModifier,
                       QPoint(8, onlyChanged()->height() / 2));
-    settle();
+    settleEvents();
 
     QVERIFY(m_view->isOnlyChanged());
     QCOMPARE(shown(), (QStringList{name("G"), name("b")}));
@@ -911,7 +881,7 @@ void tst_PanelSearch::onlyChangedKeepsRowsUnderTheHand()
     spinBox->setFocus();
     spinBox->selectAll();
     QTest::keyClicks(spinBox, name("4"));
-    settle();
+    settleEvents();
     QCOMPARE(m_store->value(property(name("a"))).toInt(), 4);
     QCOMPARE(shown(), QStringList{name("a")});
 
@@ -930,7 +900,7 @@ void tst_PanelSearch::onlyChangedAddsRows()
 
     m_store->setValue(property(name("b")), 5, IPropertyEditorDelegate::NewChange);
     m_view->updateUI();
-    settle();
+    settleEvents();
 
     QCOMPARE(shown(), QStringList{name("b")});
     QCOMPARE(count(), name("1 match"));
@@ -956,7 +926,7 @@ void tst_PanelSearch::onlyChangedAsksTheSelection()
     stores[0].setValue(lists[0].properties().at(1), 5, IPropertyEditorDelegate::NewChange);
     selection.refresh();
     m_view->updateUI();
-    settle();
+    settleEvents();
 
     QCOMPARE(shown(), (QStringList{name("own"), name("same")}));
     m_view.reset();
@@ -1005,7 +975,7 @@ void tst_PanelSearch::goesOnInOtherProperties()
     });
 
     m_view->setProperties(other, m_store.get());
-    settle();
+    settleEvents();
 
     QVERIFY(searchField()->hasFocus());
     QCOMPARE(shown(), (QStringList{name("G"), name("row1")}));
@@ -1113,10 +1083,10 @@ void tst_PanelSearch::labelsAreHighlighted()
     QVERIFY(widget);
     const auto changed = [&](const char *search) {
         m_view->setSearchText(QString());
-        settle();
+        settleEvents();
         const QImage before = widget->grab().toImage();
         m_view->setSearchText(name(search));
-        settle();
+        settleEvents();
         const QImage after = widget->grab().toImage();
         int pixels = 0;
         for (int y = 0; y < after.height(); ++y) {
@@ -1134,7 +1104,7 @@ void tst_PanelSearch::labelsAreHighlighted()
     QVERIFY(word > part);
     QVERIFY(all > word);
     m_view->closeSearch();
-    settle();
+    settleEvents();
     QCOMPARE(changed(""), 0);
 }
 
@@ -1162,7 +1132,7 @@ void tst_PanelSearch::highlightIsWhereTheWordIs()
     show();
     m_view->openSearch();
     m_view->setLabelWidth(200);
-    settle();
+    settleEvents();
     QWidget *const widget = this->label(label + QLatin1Char(':'));
     const auto leftmost = [](const QImage &image, const QImage &background) {
         for (int x = 0; x < image.width(); ++x) {
@@ -1178,7 +1148,7 @@ void tst_PanelSearch::highlightIsWhereTheWordIs()
     empty.fill(before.pixelColor(0, 0));
 
     m_view->setSearchText(name("target"));
-    settle();
+    settleEvents();
 
     const int ink = leftmost(before, empty);
     const int highlight = leftmost(widget->grab().toImage(), before);
@@ -1248,7 +1218,7 @@ void tst_PanelSearch::viewDeletedWhileSearching()
         type(key == Qt::Key_1 ? "row" : "row1");
         PropertyList other;
         other.string(name("o"), name("row o"));
-        const Watcher watcher(field(name("row3")), QEvent::Type(event), [&] {
+        const EventWatch watcher(field(name("row3")), QEvent::Type(event), [&] {
             if (deletes)
                 m_view.reset();
             else

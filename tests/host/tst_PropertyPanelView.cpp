@@ -7,6 +7,7 @@
 #include <property/PropertyLayout.h>
 #include <property/PropertyUI.h>
 
+#include <support/Events.h>
 #include <support/HintCountingEditor.h>
 #include <support/RecordingDelegate.h>
 #include <support/Wheel.h>
@@ -34,6 +35,8 @@
 using namespace Tessark::PropertyHost;
 using namespace Tessark::PropertyUI;
 using Tessark::Testing::HintCountingEditor;
+using TestSupport::EventWatch;
+using TestSupport::settleEvents;
 
 namespace {
 
@@ -72,31 +75,6 @@ private:
     QEvent::Type m_type;
 };
 
-/// Does something, once, when the widget gets an event of the type.
-class Watcher final : public QObject
-{
-public:
-    Watcher(QWidget *widget, QEvent::Type type, std::function<void()> act)
-        : m_type(type)
-        , m_act(std::move(act))
-    {
-        widget->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != m_type || !m_act)
-            return false;
-        const QPointer<QObject> receiver(watched);
-        std::exchange(m_act, nullptr)();
-        return !receiver; // it must not get the event then
-    }
-
-private:
-    QEvent::Type m_type;
-    std::function<void()> m_act;
-};
-
 /// As the window system does it, whatever window the pointer is over.
 void movePointer(QWidget *widget, const QPoint &position, Qt::MouseButtons held = Qt::NoButton)
 {
@@ -109,14 +87,6 @@ void movePointer(QWidget *widget, const QPoint &position, Qt::MouseButtons held 
 void movePointer(QWidget *widget)
 {
     movePointer(widget, widget->rect().center());
-}
-
-void settle()
-{
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
 }
 
 } // namespace
@@ -248,7 +218,7 @@ void tst_PropertyPanelView::show(const QSize &size)
     m_view->resize(size);
     m_view->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
-    settle();
+    settleEvents();
 }
 
 Property *tst_PropertyPanelView::property(const QString &name) const
@@ -371,7 +341,7 @@ void tst_PropertyPanelView::clearedViewIsEmpty()
     QVERIFY(!panel);
     QVERIFY(!m_view->panel());
     QVERIFY(!m_view->rules());
-    settle();
+    settleEvents();
     show();
     QVERIFY(!isShown(name("r0"))); // as the user has arranged it
 }
@@ -447,14 +417,14 @@ void tst_PropertyPanelView::heightFollowsGroups()
     QVERIFY(scrollBar()->isVisible());
 
     click(name("G"));
-    settle();
+    settleEvents();
 
     QCOMPARE(scrollBar()->maximum(), 0);
     QVERIFY(!scrollBar()->isVisible());
     QVERIFY(field(name("last"))->y() < 60);
 
     click(name("G"));
-    settle();
+    settleEvents();
 
     QCOMPARE(scrollBar()->maximum(), whole);
     // The last row ends where the panel ends.
@@ -471,11 +441,11 @@ void tst_PropertyPanelView::heightFollowsRules()
     QVERIFY(whole > 500);
 
     click(name("on"));
-    settle();
+    settleEvents();
     QCOMPARE(scrollBar()->maximum(), 0);
 
     click(name("on"));
-    settle();
+    settleEvents();
     QCOMPARE(scrollBar()->maximum(), whole);
 }
 
@@ -489,11 +459,11 @@ void tst_PropertyPanelView::heightFollowsGroupsOnTabPages()
     QVERIFY(whole > 500);
 
     click(name("G"));
-    settle();
+    settleEvents();
     QCOMPARE(scrollBar()->maximum(), 0);
 
     click(name("G"));
-    settle();
+    settleEvents();
     QCOMPARE(scrollBar()->maximum(), whole);
 }
 
@@ -520,7 +490,7 @@ void tst_PropertyPanelView::horizontalScrollBarOnlyWhenTooNarrow()
     QCOMPARE(m_view->panel()->width(), needed);
 
     m_view->resize(needed, kViewSize.height());
-    settle();
+    settleEvents();
 
     QVERIFY(!bar->isVisible());
 }
@@ -559,11 +529,11 @@ void tst_PropertyPanelView::innerRowsAreNotShownInBetween()
     show();
     click(name("Inner"));
     click(name("Outer"));
-    settle();
+    settleEvents();
 
     EventCount shown(QEvent::ShowToParent);
     click(name("Outer"));
-    settle();
+    settleEvents();
 
     QCOMPARE(shown.count, 2); // the check box of the inner group and its end
 }
@@ -583,7 +553,7 @@ void tst_PropertyPanelView::groupOnTabPageFolds()
     const int before = field(name("c"))->y();
     click(name("Inner"));
     click(name("Outer"));
-    settle();
+    settleEvents();
     QVERIFY(!isShown(name("a")));
     QVERIFY(isShown(name("c")));
     QVERIFY(field(name("c"))->y() < before);
@@ -773,13 +743,13 @@ void tst_PropertyPanelView::openingCostsAboutAsMuchAsInThePanel()
     });
     show();
     click(name("G"));
-    settle();
+    settleEvents();
 
     EventCount shown(QEvent::ShowToParent);
     EventCount moved(QEvent::Move);
     HintCountingEditor::s_hintCalls = 0;
     click(name("G"));
-    settle();
+    settleEvents();
 
     QVERIFY(shown.count >= 2 * kRows); // labels and fields
     QVERIFY2(shown.count <= 2 * kRows + 2, qPrintable(QString::number(shown.count)));
@@ -790,7 +760,7 @@ void tst_PropertyPanelView::openingCostsAboutAsMuchAsInThePanel()
     EventCount hidden(QEvent::HideToParent);
     HintCountingEditor::s_hintCalls = 0;
     click(name("G"));
-    settle();
+    settleEvents();
 
     QVERIFY(hidden.count >= 2 * kRows);
     QVERIFY2(hidden.count <= 2 * kRows + 2, qPrintable(QString::number(hidden.count)));
@@ -811,7 +781,7 @@ void tst_PropertyPanelView::manyRowsComeAtOnce()
     HintCountingEditor::s_hintCalls = 0;
     click(name("on"));
     QVERIFY(isShown(numbered("r", kRows - 1)));
-    settle();
+    settleEvents();
 
     QVERIFY2(HintCountingEditor::s_hintCalls <= 6 * kRows,
              qPrintable(QString::number(HintCountingEditor::s_hintCalls)));
@@ -866,9 +836,9 @@ void tst_PropertyPanelView::stateSurvivesTheProgram()
     addRows("s", 40);
     show();
     click(name("G"));
-    settle();
+    settleEvents();
     m_view->setLabelWidth(77);
-    settle();
+    settleEvents();
     scrollBar()->setValue(100);
     {
         QSettings settings(file, QSettings::IniFormat);
@@ -1108,7 +1078,7 @@ void tst_PropertyPanelView::splitterIsFixedAtFirst()
     QTest::mousePress(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap);
     movePointer(m_view->panel(), gap + QPoint(50, 0), Qt::LeftButton);
     QTest::mouseRelease(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap + QPoint(50, 0));
-    settle();
+    settleEvents();
 
     QCOMPARE(field(name("a"))->x(), x);
     QCOMPARE(m_view->labelWidth(), -1);
@@ -1137,11 +1107,11 @@ void tst_PropertyPanelView::splitterIsDragged()
 
     QTest::mousePress(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap);
     movePointer(m_view->panel(), gap + step, Qt::LeftButton);
-    settle();
+    settleEvents();
     QCOMPARE(m_view->labelWidth(), labelWidth + 30);
     QCOMPARE(field(name("a"))->width(), fieldWidth - 30);
     movePointer(m_view->panel(), gap - 100 * step, Qt::LeftButton);
-    settle();
+    settleEvents();
     QTest::mouseRelease(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap - 100 * step);
 
     QCOMPARE(m_view->labelWidth(), 24); // the smallest
@@ -1160,7 +1130,7 @@ void tst_PropertyPanelView::splitterKeepsFieldsInView()
     QTest::mousePress(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap);
     movePointer(m_view->panel(), gap + QPoint(5000, 0), Qt::LeftButton);
     QTest::mouseRelease(m_view->panel(), Qt::LeftButton, Qt::NoModifier, gap + QPoint(5000, 0));
-    settle();
+    settleEvents();
 
     QVERIFY(m_view->labelWidth() > 100);
     QVERIFY(field(name("a"))->width() > 0);
@@ -1192,12 +1162,12 @@ void tst_PropertyPanelView::doubleClickMakesLabelsAutomatic()
     show();
     const int x = field(name("a"))->x();
     m_view->setLabelWidth(150);
-    settle();
+    settleEvents();
     QVERIFY(field(name("a"))->x() > x);
 
     QTest::mouseDClick(m_view->panel(), Qt::LeftButton, Qt::NoModifier,
                        gapOf(name("Label"), name("a")));
-    settle();
+    settleEvents();
 
     QCOMPARE(m_view->labelWidth(), -1);
     QCOMPARE(field(name("a"))->x(), x);
@@ -1213,12 +1183,12 @@ void tst_PropertyPanelView::labelWidthIsOneForAllPages()
     show({600, 300});
 
     m_view->setLabelWidth(120);
-    settle();
+    settleEvents();
 
     QCOMPARE(field(name("a"))->x(), 4 + 120 + 10);
     QCOMPARE(field(name("b"))->x(), 4 + 120 + 10);
     m_view->panel()->findChild<QTabWidget *>()->setCurrentIndex(1);
-    settle();
+    settleEvents();
     QCOMPARE(field(name("c"))->x(), 4 + 120 + 10);
 }
 
@@ -1230,7 +1200,7 @@ void tst_PropertyPanelView::labelWidthIsKept()
     QCOMPARE(field(name("a"))->x(), 4 + 90 + 10);
 
     m_view->setProperties(*m_list, m_store.get());
-    settle();
+    settleEvents();
 
     QCOMPARE(m_view->labelWidth(), 90);
     QCOMPARE(field(name("a"))->x(), 4 + 90 + 10);
@@ -1389,7 +1359,7 @@ void tst_PropertyPanelView::descriptionTellsFocusedRow()
     QCOMPARE(description()->height(), height);
 
     m_view->clear();
-    settle();
+    settleEvents();
     QCOMPARE(description()->text(), QString());
 }
 
@@ -1474,7 +1444,7 @@ void tst_PropertyPanelView::panelDeletedByHost()
     m_view->setLabelWidth(40);
     m_view->setSplitterMovable(true);
     QVERIFY(m_view->restoreState(m_view->saveState()));
-    settle();
+    settleEvents();
     show();
     QVERIFY(isShown(name("r0")));
     QCOMPARE(m_view->labelWidth(), 40);
@@ -1514,7 +1484,7 @@ void tst_PropertyPanelView::otherPropertiesWhileRowsAreShown()
             show();
             if (type == QEvent::ShowToParent)
                 click(name("G"));
-            const Watcher watcher(field(name("r2")), type, [&] {
+            const EventWatch watcher(field(name("r2")), type, [&] {
                 if (deletes)
                     m_view.reset();
                 else

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Events.h"
+
 #include <host/PropertyList.h>
 #include <host/PropertyPanelView.h>
 #include <host/PropertyStore.h>
@@ -7,7 +9,6 @@
 #include <property/PropertyUI.h>
 
 #include <QAbstractButton>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QTest>
 #include <QUndoStack>
@@ -15,15 +16,6 @@
 #include <memory>
 
 namespace TestSupport {
-
-/// Lets layouts and what is posted come to rest.
-inline void settleEvents()
-{
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
 
 /// A view of a list, whose values a store keeps, with undo.
 class ViewBench

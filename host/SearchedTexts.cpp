@@ -1,4 +1,4 @@
-#include "host/RowTexts_p.h"
+#include "host/SearchedTexts_p.h"
 
 #include "host/HostHints.h"
 #include "host/RowHelp_p.h"

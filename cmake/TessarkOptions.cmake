@@ -16,6 +16,7 @@ option(TESSARK_DEVELOPER "Treat warnings as errors" OFF)
 option(TESSARK_COVERAGE "Measure line coverage (GCC)" OFF)
 option(TESSARK_FUZZ "Build the fuzz targets for libFuzzer (clang)" OFF)
 option(TESSARK_PRECOMPILE_QT "Compile Qt's headers once for all sources (with the tests)" OFF)
+option(TESSARK_UNITY "Compile sources of the libraries a dozen at a time" OFF)
 set(TESSARK_SANITIZE "" CACHE STRING
     "Sanitizers to build with, comma separated (for example address,undefined)")
 

@@ -16,7 +16,7 @@ using namespace PropertyUI;
 
 namespace {
 
-constexpr int kBarWidth = 4; // as the margin of the rows
+constexpr int kMarkWidth = 4; // as the margin of the rows
 
 QRect gapBetween(const QRect &label, const QRect &field)
 {
@@ -153,8 +153,8 @@ void DefaultMarks::place(int row)
     }
     mark->setShape(DefaultMark::Shape::Bar);
     const QRect place = field->geometry();
-    const int left = field->isRightToLeft() ? place.right() + 1 : place.left() - kBarWidth;
-    mark->setGeometry(left, place.top(), kBarWidth, place.height());
+    const int left = field->isRightToLeft() ? place.right() + 1 : place.left() - kMarkWidth;
+    mark->setGeometry(left, place.top(), kMarkWidth, place.height());
 }
 
 } // namespace Tessark::PropertyHost

@@ -1,5 +1,7 @@
 #include "host/LabelElider_p.h"
 
+#include "host/LabelPlaces_p.h"
+
 #include <QHelpEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -13,20 +15,17 @@ namespace Tessark::PropertyHost {
 
 namespace {
 
-bool isPlain(const QLabel &label)
+bool canBeElided(const QLabel &label)
 {
-    const Qt::TextFormat format = label.textFormat();
-    const bool isText =
-        format == Qt::PlainText || (format == Qt::AutoText && !Qt::mightBeRichText(label.text()));
     const Qt::TextInteractionFlags selectable =
         Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::TextEditable;
-    return isText && !label.text().isEmpty() && !label.wordWrap()
+    return showsPlainText(label) && !label.text().isEmpty() && !label.wordWrap()
            && !(label.textInteractionFlags() & selectable);
 }
 
 bool isCutOff(const QLabel &label)
 {
-    return label.width() < label.sizeHint().width() && isPlain(label);
+    return label.width() < label.sizeHint().width() && canBeElided(label);
 }
 
 Qt::LayoutDirection directionOf(const QLabel &label)

@@ -122,20 +122,20 @@ QRect textRect(const QLabel &label, Qt::Alignment alignment)
     return rect;
 }
 
-bool isPlain(const QLabel &label)
+} // namespace
+
+bool showsPlainText(const QLabel &label)
 {
     return label.textFormat() == Qt::PlainText
            || (label.textFormat() == Qt::AutoText && !Qt::mightBeRichText(label.text()));
 }
-
-} // namespace
 
 // A label reads its text in the text's direction, not in its own.
 QVector<QRectF> placesInLabel(const QLabel &label, const QStringList &words)
 {
     TextFrame frame;
     frame.wraps = label.wordWrap();
-    if (isPlain(label)) {
+    if (showsPlainText(label)) {
         // Without a buddy its ampersands are not mnemonics but are shown.
         const QString text = label.buddy() ? shownWithoutMnemonic(label.text()) : label.text();
         frame.direction = text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;

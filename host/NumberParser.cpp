@@ -12,7 +12,7 @@ namespace Tessark::PropertyHost {
 namespace {
 
 constexpr int kMaximumLength = 500;
-constexpr int kMaximumDepth = 50;
+constexpr int kMaximumNesting = 50;
 constexpr double kPerCent = 100.0;
 
 struct RelativePrefix
@@ -276,9 +276,9 @@ QVector<double> NumberParser::parseArguments()
 
 bool NumberParser::descend()
 {
-    if (++m_depth > kMaximumDepth) {
+    if (++m_depth > kMaximumNesting) {
         fail(m_scanner.position(),
-             tr("The expression is nested more than %n levels deep", nullptr, kMaximumDepth));
+             tr("The expression is nested more than %n levels deep", nullptr, kMaximumNesting));
     }
     return !hasFailed();
 }

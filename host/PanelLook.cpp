@@ -25,7 +25,7 @@ constexpr double kBrightest = 0.92;
 constexpr double kFaded = 0.5;       // of the way from a text to its background
 constexpr double kPlaceholder = 0.4; // the same
 
-constexpr QPalette::ColorGroup kGroups[] = {QPalette::Active, QPalette::Inactive,
+constexpr QPalette::ColorGroup kColorGroups[] = {QPalette::Active, QPalette::Inactive,
                                             QPalette::Disabled};
 
 struct TextRole
@@ -79,7 +79,7 @@ QPalette surfaces(const QPalette &system, bool dark)
 {
     const bool turns = hasDarkWindow(system) != dark;
     QPalette palette = system;
-    for (const auto group : kGroups) {
+    for (const auto group : kColorGroups) {
         for (int i = 0; i <= QPalette::PlaceholderText; ++i) {
             const auto role = static_cast<QPalette::ColorRole>(i);
             const QColor color = system.color(group, role);
@@ -131,7 +131,7 @@ void makeRestReadable(QPalette &palette, QPalette::ColorGroup group)
 QPalette readablePalette(const QPalette &system, bool dark)
 {
     QPalette palette = surfaces(system, dark);
-    for (const auto group : kGroups) {
+    for (const auto group : kColorGroups) {
         makeReadable(palette, group);
         makeRestReadable(palette, group);
     }
@@ -161,7 +161,7 @@ QPalette highContrastPalette(bool dark)
     const QColor text = dark ? Qt::white : Qt::black;
     const QColor disabled = dark ? Qt::gray : Qt::darkGray;
     QPalette palette;
-    for (const auto group : kGroups) {
+    for (const auto group : kColorGroups) {
         for (int i = 0; i <= QPalette::PlaceholderText; ++i) {
             const auto role = static_cast<QPalette::ColorRole>(i);
             if (role != QPalette::NoRole)

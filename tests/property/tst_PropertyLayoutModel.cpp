@@ -511,6 +511,8 @@ QString Comparison::describe(int index) const
 
 } // namespace
 
+Q_DECLARE_METATYPE(Profile)
+
 /**
  * Compares the layout with an independent model of its arithmetic on random lists of items.
  *
@@ -560,8 +562,6 @@ void tst_PropertyLayoutModel::randomListsAgree()
         QVERIFY2(same, qPrintable(comparison.report()));
     }
 }
-
-Q_DECLARE_METATYPE(Profile)
 
 QTEST_MAIN(tst_PropertyLayoutModel)
 #include "tst_PropertyLayoutModel.moc"

@@ -26,7 +26,7 @@ constexpr double kFaded = 0.5;       // of the way from a text to its background
 constexpr double kPlaceholder = 0.4; // the same
 
 constexpr QPalette::ColorGroup kColorGroups[] = {QPalette::Active, QPalette::Inactive,
-                                            QPalette::Disabled};
+                                                 QPalette::Disabled};
 
 struct TextRole
 {

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void readsNegativeNumbersAsTheBaseDoes();
     void typingAtTheEndDropsFurtherDigits_data();
     void typingAtTheEndDropsFurtherDigits();
+    void insertingAtTheEndDropsFurtherDigits();
     void typingInTheMiddleIsLeftToTheBase();
     void validateKeepsThePositionInsideTheText();
     void suffixIsPartOfTheText();
@@ -219,6 +220,17 @@ void tst_DoubleSpinBox::typingInTheMiddleIsLeftToTheBase()
     QCOMPARE(box.validate(tooLong, middle), QValidator::Invalid);
     QCOMPARE(tooLong, QStringLiteral("3.1415"));
     QCOMPARE(middle, 4);
+}
+
+// Typed digit by digit, it is the base that refuses them.
+void tst_DoubleSpinBox::insertingAtTheEndDropsFurtherDigits()
+{
+    Box box(2);
+    box.edit()->clear();
+
+    box.edit()->insert(QStringLiteral(".5678"));
+
+    QCOMPARE(box.text(), QStringLiteral(".56"));
 }
 
 void tst_DoubleSpinBox::validateKeepsThePositionInsideTheText()

@@ -167,6 +167,7 @@ private Q_SLOTS:
 
     void objectsAreChangedEachByItsOwnValue_data();
     void objectsAreChangedEachByItsOwnValue();
+    void objectWithoutNumberIsTold_data();
     void objectWithoutNumberIsTold();
     void operandIsCheckedWhileTyped();
     void mixedRowIsNotCopied();
@@ -797,9 +798,17 @@ void tst_RowMenu::objectsAreChangedEachByItsOwnValue()
     QCOMPARE(valueOf(1, "level").toDouble(), 4.0);
 }
 
+void tst_RowMenu::objectWithoutNumberIsTold_data()
+{
+    QTest::addColumn<bool>("inAnotherWindow");
+    QTest::newRow("at once") << false;
+    QTest::newRow("when the user comes back from another window") << true;
+}
+
 /// Nothing is changed then, and a tool tip says why.
 void tst_RowMenu::objectWithoutNumberIsTold()
 {
+    QFETCH(bool, inAnotherWindow);
     makeSelection([](PropertyList &rows) {
         rows.number(text("level"), text("Level")).range(0, 9).defaultValue(1);
     });
@@ -809,8 +818,19 @@ void tst_RowMenu::objectWithoutNumberIsTold()
     choose("Add to Each...");
     auto *const dialog = m_bench->view->findChild<QDialog *>();
 
+    QWidget other;
     QTest::keyClicks(dialog->findChild<QLineEdit *>(), text("2"));
+    if (inAnotherWindow) {
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+    }
     QTest::keyClick(dialog, Qt::Key_Return);
+    if (inAnotherWindow) {
+        settleEvents();
+        QVERIFY(!QToolTip::isVisible());
+        m_bench->view->activateWindow();
+    }
 
     QTRY_COMPARE(QToolTip::text(), text("the value is not a number"));
     QCOMPARE(valueOf(0, "level").toDouble(), 1.0);

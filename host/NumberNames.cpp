@@ -35,12 +35,6 @@ NumberNames::NumberNames(const PropertyEditorPanel &panel)
     }
 }
 
-QVector<QPointer<QAbstractSpinBox>> NumberNames::rowOf(const QAbstractSpinBox *field) const
-{
-    const Row *const row = rowWith(field);
-    return row ? row->fields : QVector<QPointer<QAbstractSpinBox>>();
-}
-
 QAbstractSpinBox *NumberNames::find(const QString &name, const QAbstractSpinBox *from) const
 {
     const Row *const own = rowWith(from);

@@ -22,9 +22,6 @@ class NumberNames
 public:
     explicit NumberNames(const PropertyUI::PropertyEditorPanel &panel);
 
-    /// The fields of the row that one is in, itself included.
-    QVector<QPointer<QAbstractSpinBox>> rowOf(const QAbstractSpinBox *field) const;
-
     /// The field of that name, as seen from another: a component of its own row ("x", "width" or
     /// "w"), a row of one number by its name or label, or a component of a row ("size.width"). Null if
     /// there is none.

@@ -1,6 +1,7 @@
 #include "host/RowMenu_p.h"
 
 #include "host/GroupFolding_p.h"
+#include "host/LateToolTip_p.h"
 #include "host/OperandDialog_p.h"
 #include "host/RowHelp_p.h"
 #include "host/RowText_p.h"
@@ -16,11 +17,9 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QCursor>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMenu>
-#include <QToolTip>
 #include <QWhatsThis>
 
 namespace Tessark::PropertyHost {
@@ -199,8 +198,8 @@ void RowMenu::changeEach(int row, const QString &text)
     const PanelRow widgets = m_rows->at(row);
     const auto edit = parseRelativeEdit(text, *widgets.property);
     const auto problem = edit ? RowEdit(m_edit).change(widgets, *edit) : std::nullopt;
-    if (problem)
-        QToolTip::showText(QCursor::pos(), problem->message);
+    if (problem && m_panel)
+        new LateToolTip(m_panel, problem->message);
 }
 
 /// The rows with values that the menu is about: of a group all in it, on the pages of its tabs too.

@@ -101,6 +101,7 @@ private Q_SLOTS:
     void clicksPassAtOnce_data();
     void clicksPassAtOnce();
     void forgottenEditDoesNotPass();
+    void propertyForgottenInItsRun();
     void destructionLetsTheWaitingEditPass();
     void dragPassesWhenItEnds();
     void refreshInADragKeepsTheControl();
@@ -369,6 +370,24 @@ void tst_CommitPolicy::forgottenEditDoesNotPass()
     QCOMPARE(subject.log(), QStringLiteral("a=1/0"));
     QVERIFY(subject.policy->mode(&subject.a).isLive());
     QCOMPARE(subject.policy->value(&subject.a), QVariant(1));
+}
+
+void tst_CommitPolicy::propertyForgottenInItsRun()
+{
+    Subject subject;
+    subject.policy->setDefaultMode(CommitMode::atEndOfRun());
+    subject.show();
+    SliderDrag drag(subject.slider(0));
+    drag.press();
+    drag.moveBy(40);
+    QVERIFY(subject.policy->hasPending());
+
+    subject.policy->forget(&subject.a);
+    subject.policy->setValue(&subject.a, 0.5, kNew); // as outside of a run
+    drag.release();
+
+    QCOMPARE(subject.log(), QStringLiteral("a=0.5/0"));
+    QVERIFY(!subject.policy->hasPending());
 }
 
 void tst_CommitPolicy::destructionLetsTheWaitingEditPass()

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void rowsLookAsEverWhenTheyAgree();
     void mixedAgainAfterUndo();
     void newRowsOfASelection();
+    void rowsOfTheListBeforeAreNotMixed();
     void descriptionTells();
     void helpFollowsWhileMixed();
     void widgetOfAHostIsHatched();
@@ -413,6 +414,22 @@ void tst_MixedRows::newRowsOfASelection()
     m_selection->setMembers({{*m_rows, m_objects.at(0).get()}, {*m_rows, m_objects.at(1).get()}});
     settleEvents();
     QCOMPARE(difference(picture("row"), mixed), 0);
+}
+
+/// The host shows the new rows when it likes to.
+void tst_MixedRows::rowsOfTheListBeforeAreNotMixed()
+{
+    make([](PropertyList &rows) { rows.integer(text("row"), text("Row")).range(0, 9); });
+    setValues("row", 3, 4);
+    QVERIFY(!m_bench->field("row")->accessibleDescription().isEmpty());
+    PropertyList others;
+    others.string(text("name"), text("Name"));
+    PropertyStore other;
+    other.reset(others);
+
+    m_selection->setMembers({{others, &other}});
+
+    QVERIFY(m_bench->field("row")->accessibleDescription().isEmpty());
 }
 
 void tst_MixedRows::descriptionTells()

@@ -147,6 +147,8 @@ private Q_SLOTS:
     void escapeGivesBackTheValue_data();
     void escapeGivesBackTheValue();
     void escapeGivesBackBothSidesOfASize();
+    void escapeWithoutAValueOfTheHost();
+    void escapeWithoutAnotherFieldOfTheRow();
     void escapeIsNotForTheDialog();
     void escapeOfAPlainNumberIsForTheDialog();
     void mistakeIsToldAndKept();
@@ -167,6 +169,8 @@ private Q_SLOTS:
     void refreshWithANewNumberIsTheNumberBefore();
     void menuOfTheFieldLeavesTheText();
     void arrowsLeaveTheExpression();
+    void numberOfTheHostLeavesTheExpression();
+    void typeWhoseFactoryMakesNothing();
     void plainTypingIsAsWithout_data();
     void plainTypingIsAsWithout();
     void deletedEntryLeavesThePlainPanel();
@@ -358,6 +362,36 @@ void tst_NumberEntry::escapeGivesBackBothSidesOfASize()
     QCOMPARE(numberIn(box), 200.0);
     QCOMPARE(numberIn(subject.field("size", 1)), 100.0);
     QCOMPARE(subject.store.values.value(text("size")), QVariant(QSize(200, 100)));
+}
+
+/// There is nothing but the number of the field to give back.
+void tst_NumberEntry::escapeWithoutAValueOfTheHost()
+{
+    Subject subject;
+    subject.store.values.remove(text("count"));
+    subject.show();
+    const double before = numberIn(subject.field("count"));
+
+    QAbstractSpinBox *const box = subject.type("count", text("2*3"));
+    QCOMPARE(subject.log(), text("count=2/0"));
+    subject.store.values.remove(text("count"));
+    QTest::keyClick(box, Qt::Key_Escape);
+
+    QCOMPARE(numberIn(box), before);
+    QCOMPARE(subject.log(), text("count=2/0 count=0/1"));
+}
+
+void tst_NumberEntry::escapeWithoutAnotherFieldOfTheRow()
+{
+    Subject subject;
+    subject.show();
+    QAbstractSpinBox *const box = subject.type("place", text("=2*3"), 1);
+
+    delete subject.field("place", 0);
+    QTest::keyClick(box, Qt::Key_Escape);
+
+    QCOMPARE(numberIn(box), 2.0);
+    QVERIFY(subject.store.changes.isEmpty());
 }
 
 void tst_NumberEntry::escapeIsNotForTheDialog()
@@ -669,6 +703,35 @@ void tst_NumberEntry::arrowsLeaveTheExpression()
     QCOMPARE(box->text(), text("=2*3"));
     QCOMPARE(subject.previewText(), text("= 6"));
     QVERIFY(subject.store.changes.isEmpty());
+}
+
+void tst_NumberEntry::numberOfTheHostLeavesTheExpression()
+{
+    Subject subject;
+    subject.show();
+    QAbstractSpinBox *const box = subject.type("count", text("=2*3"));
+
+    qobject_cast<QSpinBox *>(box)->setValue(7);
+
+    QCOMPARE(box->text(), text("7"));
+    QVERIFY(subject.previewText().isEmpty());
+    QCOMPARE(subject.log(), text("count=7/0"));
+}
+
+/// The panel has no widget for such a row, and names still find their fields.
+void tst_NumberEntry::typeWhoseFactoryMakesNothing()
+{
+    const QString type = text("tst_NumberEntry/nothing");
+    PropertyEditorRegistry::Instance()->registerPropertyEditor(
+        type, [](Property *) -> PropertyEditor * { return nullptr; });
+    Subject subject;
+    subject.set.add(text("nothing"), text("Nothing"), type);
+    subject.show();
+
+    QAbstractSpinBox *const box = subject.type("count", text("=depth*2"));
+    QTest::keyClick(box, Qt::Key_Return);
+
+    QCOMPARE(numberIn(box), 20.0);
 }
 
 void tst_NumberEntry::plainTypingIsAsWithout_data()

@@ -256,6 +256,7 @@ void tst_NumberExpression::values_data()
     addRow("2,5e-3", 0.0025);
     addRow("٣٫٥", 3.5);
     addRow("१२", 12);
+    addRow("١٬٢٣٤٫٥", 1234.5);
 
     // Operators.
     addRow("1+2*3", 7);
@@ -352,6 +353,7 @@ void tst_NumberExpression::percentFields_data()
     addRow("50%", 50);
     addRow("50", 50);
     addRow("50% + 10%", 60);
+    addRow("٥٠٪ + ١٠٪", 60);
     addRow("50 + 10%", 60);
     addRow("50% - 10", 40);
     addRow("50% / 2", 25);

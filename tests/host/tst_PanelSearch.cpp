@@ -7,9 +7,11 @@
 #include <property/PropertyUI.h>
 
 #include <support/Events.h>
+#include <support/MarkingTranslator.h>
 #include <support/RecordingDelegate.h>
 
 #include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -40,7 +42,35 @@ QString name(const char *text)
     return QString::fromUtf8(text);
 }
 
+/// Around all pixels that differ.
+QRect changedArea(const QImage &left, const QImage &right)
+{
+    QRect area;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            if (left.pixel(x, y) != right.pixel(x, y))
+                area |= QRect(x, y, 1, 1);
+        }
+    }
+    return area;
+}
+
+QString placesOf(const QRect &ink, const QRect &highlight)
+{
+    return QStringLiteral("letters %1-%2, %3-%4; highlight %5-%6, %7-%8")
+        .arg(ink.left())
+        .arg(ink.right())
+        .arg(ink.top())
+        .arg(ink.bottom())
+        .arg(highlight.left())
+        .arg(highlight.right())
+        .arg(highlight.top())
+        .arg(highlight.bottom());
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(QLabel &)>)
 
 class tst_PanelSearch : public QObject
 {
@@ -65,6 +95,8 @@ private Q_SLOTS:
     void escapeGivesBackWhatWasOpen();
     void escapeGivesBackPlaceAndFocus();
     void escapeKeepsWhatTheUserWalkedTo();
+    void escapeGoesToTheFirstFieldOfARow();
+    void escapeFromARowWithoutFields();
     void closeButtonClosesToo();
     void editsAndFoldingOfTheUserStay();
     void delegateIsNotTold();
@@ -93,6 +125,11 @@ private Q_SLOTS:
     void highlightIsWhereTheWordIs_data();
     void highlightIsWhereTheWordIs();
     void labelsKeepTheirTexts();
+    void highlightIsWhereALabelDrawsItsText_data();
+    void highlightIsWhereALabelDrawsItsText();
+    void highlightIsBehindTheIcon_data();
+    void highlightIsBehindTheIcon();
+    void barFollowsTheLanguage();
     void emptyViewIsSearched();
     void viewDeletedWhileSearching_data();
     void viewDeletedWhileSearching();
@@ -585,6 +622,37 @@ void tst_PanelSearch::escapeKeepsWhatTheUserWalkedTo()
     const QRect place(field(name("t"))->mapTo(viewport, QPoint()), field(name("t"))->size());
     QVERIFY(viewport->rect().contains(place));
     QVERIFY(!mark());
+}
+
+void tst_PanelSearch::escapeGoesToTheFirstFieldOfARow()
+{
+    m_list->string(name("a"), name("Alpha"));
+    m_list->vec3(name("place"), name("Place"));
+    show();
+    field(name("a"))->setFocus();
+    openByKey();
+    type("place");
+    press(Qt::Key_Down);
+
+    press(Qt::Key_Escape);
+
+    QVERIFY(field(name("place"))->findChildren<QDoubleSpinBox *>().first()->hasFocus());
+}
+
+void tst_PanelSearch::escapeFromARowWithoutFields()
+{
+    m_list->string(name("a"), name("Alpha"));
+    m_list->staticText(name("told"), name("Told"));
+    m_list->string(name("b"), name("Beta"));
+    show();
+    field(name("a"))->setFocus();
+    openByKey();
+    type("told");
+    press(Qt::Key_Down);
+
+    press(Qt::Key_Escape);
+
+    QVERIFY(field(name("a"))->hasFocus());
 }
 
 void tst_PanelSearch::closeButtonClosesToo()
@@ -1155,6 +1223,122 @@ void tst_PanelSearch::highlightIsWhereTheWordIs()
     QVERIFY(ink >= 0);
     QVERIFY2(highlight <= ink && highlight >= ink - 2,
              qPrintable(QString::number(highlight - ink)));
+}
+
+void tst_PanelSearch::highlightIsWhereALabelDrawsItsText_data()
+{
+    using Dress = std::function<void(QLabel &)>;
+    QTest::addColumn<Dress>("dress");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *title, const Dress &dress, const char *text = "target m") {
+        QTest::newRow(title) << dress << name(text);
+    };
+
+    row("in the middle", [](QLabel &) {});
+    row("at the top", [](QLabel &label) { label.setAlignment(Qt::AlignLeft | Qt::AlignTop); });
+    row("at the bottom",
+        [](QLabel &label) { label.setAlignment(Qt::AlignLeft | Qt::AlignBottom); });
+    row("at the right", [](QLabel &label) { label.setAlignment(Qt::AlignRight | Qt::AlignTop); });
+    row("indented", [](QLabel &label) {
+        label.setIndent(30);
+        label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    });
+    row("indented from the right", [](QLabel &label) {
+        label.setIndent(30);
+        label.setAlignment(Qt::AlignRight | Qt::AlignBottom);
+    });
+    row("in a frame", [](QLabel &label) { label.setFrameStyle(QFrame::Box | QFrame::Plain); });
+    row("in a sunken frame",
+        [](QLabel &label) { label.setFrameStyle(QFrame::Panel | QFrame::Sunken); });
+    row("in a raised frame with a margin", [](QLabel &label) {
+        label.setFrameStyle(QFrame::Panel | QFrame::Raised);
+        label.setMargin(5);
+    });
+    row(
+        "Markdown", [](QLabel &label) { label.setTextFormat(Qt::MarkdownText); }, "**target** m");
+}
+
+/// The host may dress labels as it likes. The highlight lies where letters come and go with the text.
+void tst_PanelSearch::highlightIsWhereALabelDrawsItsText()
+{
+    QFETCH(std::function<void(QLabel &)>, dress);
+    QFETCH(QString, text);
+    m_list->string(name("r"), text);
+    show();
+    m_view->openSearch();
+    m_view->setLabelWidth(200);
+    QLabel *const widget = label(text + QLatin1Char(':'));
+    widget->setMinimumHeight(60);
+    dress(*widget);
+    settleEvents();
+    const QImage before = widget->grab().toImage();
+
+    m_view->setSearchText(name("target"));
+    settleEvents();
+    const QImage after = widget->grab().toImage();
+    m_view->setSearchText(QString());
+    widget->setText(QString(QLatin1Char(' ')));
+    const QImage empty = widget->grab().toImage();
+
+    const QRect ink = changedArea(before, empty);
+    const QRect highlight = changedArea(after, before);
+    QVERIFY(!ink.isEmpty());
+    QVERIFY2(qAbs(highlight.left() - ink.left()) <= 2, qPrintable(placesOf(ink, highlight)));
+    QVERIFY2(highlight.right() < ink.right(), qPrintable(placesOf(ink, highlight)));
+    QVERIFY2(highlight.top() <= ink.top() && highlight.bottom() >= ink.bottom() - 1
+                 && highlight.height() <= widget->fontMetrics().height() + 2,
+             qPrintable(placesOf(ink, highlight)));
+}
+
+void tst_PanelSearch::highlightIsBehindTheIcon_data()
+{
+    QTest::addColumn<bool>("rightToLeft");
+    QTest::newRow("left to right") << false;
+    QTest::newRow("right to left") << true;
+}
+
+void tst_PanelSearch::highlightIsBehindTheIcon()
+{
+    QFETCH(bool, rightToLeft);
+    m_view->setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    m_list->boolean(name("r"), name("target"));
+    show();
+    auto *const box = qobject_cast<QCheckBox *>(field(name("r")));
+    QPixmap icon(16, 16);
+    icon.fill(Qt::red);
+    box->setIcon(icon);
+    m_view->openSearch();
+    settleEvents();
+    const QImage before = box->grab().toImage();
+
+    m_view->setSearchText(name("target"));
+    settleEvents();
+    const QImage after = box->grab().toImage();
+    m_view->setSearchText(QString());
+    box->setText(QString(QLatin1Char(' ')));
+    const QImage empty = box->grab().toImage();
+
+    const QRect ink = changedArea(before, empty);
+    const QRect highlight = changedArea(after, before);
+    QVERIFY(!ink.isEmpty());
+    QVERIFY2(qAbs(highlight.left() - ink.left()) <= 2 && qAbs(highlight.right() - ink.right()) <= 2,
+             qPrintable(placesOf(ink, highlight)));
+}
+
+void tst_PanelSearch::barFollowsTheLanguage()
+{
+    addRows("row", 2);
+    show();
+    openByKey();
+    const QString before = onlyChanged()->text();
+    QVERIFY(!before.isEmpty());
+    {
+        const MarkingTranslator translator("Tessark::PropertyHost::SearchBar");
+        QTRY_COMPARE(onlyChanged()->text(), QLatin1Char('[') + before + QLatin1Char(']'));
+        QVERIFY(searchField()->placeholderText().startsWith(QLatin1Char('[')));
+    }
+
+    QTRY_COMPARE(onlyChanged()->text(), before);
 }
 
 void tst_PanelSearch::labelsKeepTheirTexts()

@@ -153,6 +153,7 @@ void tst_Pictures::initTestCase()
     m_pictures.addFile(QStringLiteral("text.png"), "no picture");
     m_pictures.addFile(QStringLiteral("empty.png"), QByteArray());
     m_pictures.addFile(QStringLiteral("cut.ppm"), "P6 9 9 255\nxyz");
+    m_pictures.addFile(QStringLiteral("cut.png"), "\x89PNG\r\n\x1a\n");
     m_pictures.addFile(QStringLiteral("huge.pbm"), "P4 8001 4000\n");
     QCOMPARE(mkfifo(qPrintable(path("pipe.png")), 0600), 0);
 }
@@ -297,6 +298,7 @@ void tst_Pictures::badPicturesAreTold_data()
     row("empty.png",
         QStringLiteral("\"%1\" cannot be read as a picture: Unsupported image format"));
     row("cut.ppm", QStringLiteral("\"%1\" cannot be read as a picture: Unable to read image data"));
+    row("cut.png", QStringLiteral("\"%1\" does not tell the size of its picture"));
     row("huge.pbm", QStringLiteral("\"%1\" is too large: it has 8001 x 4000 pixels, at most 32 "
                                    "megapixels are read"));
     QTest::newRow("a number") << QByteArray("1")

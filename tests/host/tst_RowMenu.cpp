@@ -25,6 +25,7 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolTip>
 #include <QVector3D>
 #include <QWhatsThis>
 #include <QWindow>
@@ -154,6 +155,10 @@ private Q_SLOTS:
     void copiesName();
     void showsHelp();
 
+    void choiceWithValuesIsPastedByItsText();
+    void pictureWithoutPathIsNotCopied();
+    void comboBoxLeavesTheMouseToThePanel();
+
     void groupIsCopiedAsJson();
     void groupIsPastedAsOneStep();
     void groupRefusesWhatDoesNotFit();
@@ -162,6 +167,8 @@ private Q_SLOTS:
 
     void objectsAreChangedEachByItsOwnValue_data();
     void objectsAreChangedEachByItsOwnValue();
+    void objectWithoutNumberIsTold_data();
+    void objectWithoutNumberIsTold();
     void operandIsCheckedWhileTyped();
     void mixedRowIsNotCopied();
     void pasteGoesToAllObjects();
@@ -574,6 +581,52 @@ void tst_RowMenu::picturesKeepTheirPath()
     QCOMPARE(clipboard(), path);
 }
 
+/// The second text has no value.
+void tst_RowMenu::choiceWithValuesIsPastedByItsText()
+{
+    m_bench->list.add(kPropertyTypeEnumeration, text("row"), text("Row"))
+        .hint(kPropertyHintDisplayValues, QVariantList{text("one"), text("two")})
+        .hint(kPropertyHintValues, QVariantList{text("1st")});
+    m_bench->show();
+    setClipboard(text("two"));
+    askFor("row");
+    QVERIFY(!isOffered("Paste"));
+    openMenu()->close();
+    setClipboard(text("one"));
+    askFor("row");
+
+    choose("Paste");
+
+    QCOMPARE(m_bench->value("row"), QVariant(text("1st")));
+}
+
+void tst_RowMenu::pictureWithoutPathIsNotCopied()
+{
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    m_bench->list.image(text("poster"), text("Poster"));
+    m_bench->show();
+    m_bench->hold("poster", picture);
+
+    askFor("poster");
+
+    QVERIFY(entry("Copy"));
+    QVERIFY(!isOffered("Copy"));
+}
+
+/// Whose menu is that of the panel.
+void tst_RowMenu::comboBoxLeavesTheMouseToThePanel()
+{
+    m_bench->list.choice(text("mode"), text("Mode")).choices({text("A"), text("B")});
+    m_bench->show();
+    QSignalSpy menus(m_bench->view.get(), &PropertyPanelView::rowMenuAboutToShow);
+
+    askForMenu(m_bench->field("mode"));
+
+    QVERIFY(!openMenu());
+    QVERIFY(menus.isEmpty());
+}
+
 void tst_RowMenu::copiesName()
 {
     m_bench->list.number(text("lens.level"), text("Level"));
@@ -743,6 +796,46 @@ void tst_RowMenu::objectsAreChangedEachByItsOwnValue()
     QCOMPARE(valueOf(1, "level").toDouble(), results.at(1));
     m_bench->stack.undo();
     QCOMPARE(valueOf(1, "level").toDouble(), 4.0);
+}
+
+void tst_RowMenu::objectWithoutNumberIsTold_data()
+{
+    QTest::addColumn<bool>("inAnotherWindow");
+    QTest::newRow("at once") << false;
+    QTest::newRow("when the user comes back from another window") << true;
+}
+
+/// Nothing is changed then, and a tool tip says why.
+void tst_RowMenu::objectWithoutNumberIsTold()
+{
+    QFETCH(bool, inAnotherWindow);
+    makeSelection([](PropertyList &rows) {
+        rows.number(text("level"), text("Level")).range(0, 9).defaultValue(1);
+    });
+    m_objects.at(1)->setValue(m_rows->properties().first(), text("loud"), PropertyStore::NewChange);
+    m_selection->refresh();
+    askForMenu(m_bench->label("level"));
+    choose("Add to Each...");
+    auto *const dialog = m_bench->view->findChild<QDialog *>();
+
+    QWidget other;
+    QTest::keyClicks(dialog->findChild<QLineEdit *>(), text("2"));
+    if (inAnotherWindow) {
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+    }
+    QTest::keyClick(dialog, Qt::Key_Return);
+    if (inAnotherWindow) {
+        settleEvents();
+        QVERIFY(!QToolTip::isVisible());
+        m_bench->view->activateWindow();
+    }
+
+    QTRY_COMPARE(QToolTip::text(), text("the value is not a number"));
+    QCOMPARE(valueOf(0, "level").toDouble(), 1.0);
+    QCOMPARE(m_bench->stack.count(), 0);
+    QToolTip::hideText();
 }
 
 void tst_RowMenu::operandIsCheckedWhileTyped()

@@ -355,6 +355,12 @@ void tst_Rules::limits()
     QCOMPARE(mistakeIn(longest), QString());
     QCOMPARE(mistakeIn(longest + QLatin1Char(' ')),
              QStringLiteral("character 1001: a rule may have 1000 characters at most"));
+    PropertyList bounded;
+    bounded.number(name("x"), QString()).minimumFollows(QString(1001, QLatin1Char('1')));
+    const auto problems = RuleEngine(bounded, nullptr).problems();
+    QCOMPARE(problems.size(), 1);
+    QCOMPARE(problems.first().message,
+             QStringLiteral("character 1001: a rule may have 1000 characters at most"));
 
     const auto nested = [](int depth) {
         return QString(depth, QLatin1Char('(')) + QStringLiteral("on")

@@ -10,6 +10,7 @@
 #include <host/SelectionDelegate.h>
 #include <host/StructBinding.h>
 #include <host/UndoDelegate.h>
+#include <host/ValueJson.h>
 #include <property/PropertyUI.h>
 #include <property/ValueCodecs.h>
 #include <property/editors/ImageFormatEditor.h>
@@ -70,6 +71,27 @@ QString names(const QVector<Property *> &rows)
     return result.join(QLatin1Char(' '));
 }
 
+QImage blank(Qt::GlobalColor color)
+{
+    QImage picture(2, 2, QImage::Format_RGB32);
+    picture.fill(color);
+    return picture;
+}
+
+/// A move by x, with something that no field of the editor shows.
+QVariant transformOf(double x, double hidden)
+{
+    DoubleMatrix3x3 matrix;
+    matrix(2, 0) = x;
+    matrix(0, 2) = hidden;
+    return QVariant::fromValue(matrix);
+}
+
+QVariant formatNamed(const char *name)
+{
+    return QVariant::fromValue(ImageFormatDesc{QString::fromLatin1(name), 50});
+}
+
 bool isMarked(const QWidget *widget)
 {
     return widget->property("mixed").toBool();
@@ -92,6 +114,7 @@ private Q_SLOTS:
     void pointlessStructureIsLeftOut();
     void rangeIsWhatAllTake_data();
     void rangeIsWhatAllTake();
+    void rangeThatOneObjectLacks();
     void rangesThatDoNotMeetAreNotCommon();
     void rangeOfVectorsIsTakenByComponents();
     void hintsThatMustAgree_data();
@@ -465,6 +488,26 @@ void tst_SelectionDelegate::rangeIsWhatAllTake()
     QCOMPARE(row("n")->minValue.userType(), int(QMetaType::Int));
 }
 
+/// Editors that need a range read an absent end as 0; others have none then.
+void tst_SelectionDelegate::rangeThatOneObjectLacks()
+{
+    add([](PropertyList &list) {
+        list.number(QStringLiteral("x"), QString());
+        list.add(kPropertyTypePoint, QStringLiteral("p"), QString())
+            .range(QPoint(1, 2), QPoint(8, 9));
+    });
+    add([](PropertyList &list) {
+        list.number(QStringLiteral("x"), QString()).range(-5, 9);
+        list.add(kPropertyTypePoint, QStringLiteral("p"), QString());
+    });
+    selectAll();
+
+    QCOMPARE(x()->minValue.toDouble(), 0.0);
+    QCOMPARE(x()->hardMaxValue.toDouble(), 0.0);
+    QVERIFY(isSameValue(*row("p"), row("p")->minValue, QPoint(1, 2)));
+    QVERIFY(isSameValue(*row("p"), row("p")->maxValue, QPoint(8, 9)));
+}
+
 void tst_SelectionDelegate::rangesThatDoNotMeetAreNotCommon()
 {
     add([](PropertyList &list) { list.number(QStringLiteral("x"), QString()).range(0, 4); });
@@ -690,6 +733,17 @@ void tst_SelectionDelegate::mixedRowShowsNoObjectsValue_data()
                             << QVariant(QColor(Qt::yellow)) << QVariant();
     QTest::newRow("value that one object lacks")
         << kPropertyTypeInteger << QVariant(3) << QVariant() << QVariant();
+    QTest::newRow("vector that one object has as text")
+        << kPropertyTypeVec4 << QVariant(QStringLiteral("1 2 3 4"))
+        << QVariant(QVector4D(5, 2, 3, 6)) << QVariant(QVector4D(0, 2, 3, 0));
+    QTest::newRow("picture") << kPropertyTypeImage << QVariant(blank(Qt::red))
+                             << QVariant(blank(Qt::blue)) << QVariant(QImage());
+    QTest::newRow("transform that is none")
+        << kPropertyTypeTransform2D << transformOf(1, 0) << transformOf(qInf(), 0) << QVariant();
+    QTest::newRow("transforms that differ in what has no field")
+        << kPropertyTypeTransform2D << transformOf(1, 0) << transformOf(1, 0.5) << QVariant();
+    QTest::newRow("image format of another program")
+        << kPropertyTypeImageFormat << formatNamed("png") << formatNamed("webp") << QVariant();
 }
 
 void tst_SelectionDelegate::mixedRowShowsNoObjectsValue()
@@ -1136,6 +1190,8 @@ void tst_SelectionDelegate::relativeTexts_data()
     one("vector", kPropertyTypeVec3, "*=1, 2, 3", RelativeOperation::Multiply, QVector3D(1, 2, 3));
     one("number for a vector", kPropertyTypeVec2, "*=3", RelativeOperation::Multiply, 3.0);
     one("size", kPropertyTypeSize, "+=10 20", RelativeOperation::Add, QPointF(10, 20));
+    one("four numbers", kPropertyTypeVec4, "-=1 2 3 4", RelativeOperation::Subtract,
+        QVector4D(1, 2, 3, 4));
 
     const auto none = [](const char *text, const QString &type) {
         QTest::addRow("none: '%s'", text)

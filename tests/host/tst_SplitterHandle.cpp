@@ -1,3 +1,5 @@
+#include "support/MarkingTranslator.h"
+
 #include <host/PropertyList.h>
 #include <host/PropertyPanelView.h>
 #include <host/PropertyStore.h>
@@ -8,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -43,6 +46,7 @@ private Q_SLOTS:
     void takesThePageThatIsShown();
     void screenReadersSeeASplitter();
     void screenReadersMoveIt();
+    void nameFollowsTheLanguage();
 
 private:
     void show();
@@ -372,6 +376,18 @@ void tst_SplitterHandle::screenReadersMoveIt()
     value->setCurrentValue(70); // nothing to move
     QCOMPARE(value->currentValue().toInt(), 0);
     QTRY_VERIFY(!before->isVisible());
+}
+
+void tst_SplitterHandle::nameFollowsTheLanguage()
+{
+    show();
+    const QPointer<QWidget> named = handle();
+    {
+        const MarkingTranslator translator("Tessark::PropertyHost::SplitterHandle");
+        QTRY_COMPARE(named->accessibleName(), QStringLiteral("[Width of labels]"));
+    }
+
+    QTRY_COMPARE(named->accessibleName(), QStringLiteral("Width of labels"));
 }
 
 QTEST_MAIN(tst_SplitterHandle)

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void allowed_data();
     void allowed();
     void refusedPartsAreLeftOut();
+    void titleOfAMegabyteIsLeftOut();
     void trustedListsMayDoEverything();
     void picturesAreCountedTogether();
     void markupIsWarnedOf();
@@ -255,6 +256,21 @@ void tst_StrangerLists::refusedPartsAreLeftOut()
     const QVariantList textures = properties.at(2)->hint(kHostHintTextures).toList();
     QCOMPARE(int(textures.size()), 1);
     QCOMPARE(textures.first().value<TextureChoice>().name, QStringLiteral("in.png"));
+}
+
+void tst_StrangerLists::titleOfAMegabyteIsLeftOut()
+{
+    const QByteArray document =
+        R"({"version": 1, "properties": [{"name": "a", "type": "bool"}], "title": )" + text(1000000)
+        + "}";
+
+    const auto result = readPropertyList(document, list(), ListOrigin::Stranger);
+
+    QCOMPARE(texts(result.problems),
+             QStringList{QStringLiteral("f: error: /title: a text may have 10000 characters at "
+                                        "most, this one has 1000000")});
+    QCOMPARE(result.list.title(), QString());
+    QCOMPARE(int(result.list.properties().size()), 1);
 }
 
 void tst_StrangerLists::trustedListsMayDoEverything()

@@ -152,6 +152,7 @@ struct PropertyLayout::RowPlace
     int labelWidth = 0;
     qint64 fullWidth = 0;  // of the whole layout, margins included
     bool mirrored = false; // within fullWidth
+    QPointer<const PropertyLayout> layout;
 };
 
 bool PropertyLayout::Entry::expandsHorizontally() const
@@ -289,7 +290,7 @@ void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Align
             options |= EndGroup;
     }
     const bool isRowItem = dynamic_cast<RowItem *>(item) != nullptr;
-    m_items.push_back({item, options, -1, -1, alignment, isRowItem});
+    m_items.push_back({item, options, -1, -1, alignment, isRowItem, false, false});
     ++m_revision;
     m_cachedSizeHint = QSize();
     m_cachedMinimumSize = QSize();
@@ -414,15 +415,17 @@ QSize PropertyLayout::arrange(const QRect &rect, bool testOnly, qint64 *right) c
     place.labelWidth = total.labelWidth;
     place.fullWidth = rect.width();
     place.mirrored = host && host->isRightToLeft();
+    place.layout = this;
     qint64 depth = 0;
     Row row;
     for (std::size_t i = 0; i < m_items.size(); ++i) {
-        const LayoutOptions options = m_items[i].options;
-        if (options & BeginGroup)
+        Entry &entry = m_items[i];
+        if (entry.options & BeginGroup)
             ++depth;
-        else if (options & EndGroup)
+        else if (entry.options & EndGroup)
             --depth;
-        if (m_items[i].item->isEmpty())
+        entry.isShown = !entry.item->isEmpty();
+        if (!entry.isShown)
             continue;
         beginRowAt(i, total.labelWidth, row);
         if (!endsRow(i))
@@ -514,8 +517,9 @@ void PropertyLayout::sizeRow(Row &row, qint64 rowSpace, Measure &measure) const
     row.heightFloor = 0;
     row.expandsVertically = false;
     for (std::size_t i = row.first; i <= row.last; ++i) {
-        if (!m_items[i].item->isEmpty())
-            sizeItem(m_items[i], row, spareWidth);
+        Entry &entry = m_items[i];
+        if (entry.isShown)
+            sizeItem(entry, row, spareWidth);
     }
     if (!row.expandsVertically)
         return;
@@ -534,6 +538,7 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
         --row.expandCount;
     }
     const bool fillsRow = entry.expandsVertically();
+    entry.fillsRow = fillsRow;
     QSize minimum = hint;
     QSize maximum = hint;
     if (fillsRow || entry.width < hint.width() || !entry.hintIsWithinBounds()) {
@@ -582,7 +587,6 @@ qint64 PropertyLayout::rightEdge(const Row &row, const RowPlace &place) const
 /// delete the layout: row and the caller's indexes are void then, and nothing may be touched.
 bool PropertyLayout::placeRow(const Row &row, const RowPlace &place) const
 {
-    const QPointer<const PropertyLayout> self(this);
     const quint32 revision = m_revision;
     qint64 x = place.left;
     for (std::size_t i = row.first; i <= row.last; ++i) {
@@ -591,12 +595,12 @@ bool PropertyLayout::placeRow(const Row &row, const RowPlace &place) const
         if (isRowLabel)
             x += qint64(place.labelWidth) - entry.width;
         // A fixed item keeps its size-hint height even where its maximum made the row lower.
-        const bool fillsRow = entry.expandsVertically();
+        const bool fillsRow = entry.isShown ? entry.fillsRow : entry.expandsVertically();
         const int height = fillsRow ? row.height : entry.height;
         const qint64 y = fillsRow ? place.top : place.top + (qint64(row.height) - height) / 2;
         const qint64 left = place.mirrored ? place.fullWidth - x - entry.width : x;
         entry.item->setGeometry(rectangle(left, y, entry.width, height));
-        if (!self || m_revision != revision)
+        if (!place.layout || m_revision != revision)
             return false;
         if (isRowLabel)
             x = place.left + place.labelWidth + m_labelSpacing;

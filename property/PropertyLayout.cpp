@@ -2,12 +2,14 @@
 
 #include <QChildEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
 #include <limits>
+#include <typeinfo>
 
 namespace Tessark::PropertyUI {
 
@@ -97,6 +99,23 @@ public:
         return isBoundless ? wid->maximumSize() : QWidgetItem::maximumSize();
     }
 };
+
+/// Whether the item is of exactly that class.
+template <typename Item>
+bool isOfClass(const QLayoutItem &item)
+{
+    return typeid(item) == typeid(Item);
+}
+
+/// An item that asks widget for its size hints with each pass, for a widget may change them without a
+/// word. Labels and line edits of Qt always tell; the items of these keep the hints until then.
+QWidgetItem *makeRowItem(QWidget *widget)
+{
+    const std::type_info &type = typeid(*widget);
+    if (type == typeid(QLabel) || type == typeid(QLineEdit))
+        return new QWidgetItemV2(widget);
+    return new RowItem(widget);
+}
 
 /// Lets widgets that leave their parent leave the layout too. A layout does that itself, but not
 /// while it is disabled, and would keep the item of a deleted widget.
@@ -289,7 +308,7 @@ void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Align
         else if (widget->property("endGroup").toBool())
             options |= EndGroup;
     }
-    const bool isRowItem = dynamic_cast<RowItem *>(item) != nullptr;
+    const bool isRowItem = isOfClass<RowItem>(*item) || isOfClass<QWidgetItemV2>(*item);
     m_items.push_back({item, options, -1, -1, alignment, isRowItem, false, false});
     ++m_revision;
     m_cachedSizeHint = QSize();
@@ -326,7 +345,7 @@ void PropertyLayout::addChildItem(QWidget *widget, LayoutOptions options)
     if (!widget)
         return;
     addChildWidget(widget);
-    addItem(new RowItem(widget), options, Qt::AlignCenter);
+    addItem(makeRowItem(widget), options, Qt::AlignCenter);
 }
 
 void PropertyLayout::setVerticalSpacing(int spacing)

@@ -169,9 +169,9 @@ struct PropertyLayout::RowPlace
     qint64 left = 0;
     qint64 top = 0;
     int labelWidth = 0;
-    qint64 fullWidth = 0;  // of the whole layout, margins included
-    bool mirrored = false; // within fullWidth
-    QPointer<const PropertyLayout> layout;
+    qint64 fullWidth = 0;                  // of the whole layout, margins included
+    bool mirrored = false;                 // within fullWidth
+    QPointer<const PropertyLayout> layout; // null once a host deleted it
 };
 
 bool PropertyLayout::Entry::expandsHorizontally() const

@@ -15,6 +15,14 @@ namespace Tessark::PropertyUI {
 
 namespace {
 
+/// Whether a watched control may get such an event for the editor to see. Most events are others, and
+/// resizing a panel sends them to all controls.
+bool isOfInterest(QEvent::Type type)
+{
+    return type == QEvent::Wheel || type == QEvent::FocusIn || type == QEvent::FocusOut
+           || type == QEvent::KeyRelease;
+}
+
 bool isConfirmation(const QEvent *event)
 {
     const int key = static_cast<const QKeyEvent *>(event)->key();
@@ -56,6 +64,8 @@ QString PropertyEditor::controlName(const QWidget *control) const
 
 bool PropertyEditor::eventFilter(QObject *watched, QEvent *event)
 {
+    if (!isOfInterest(event->type()))
+        return false;
     // Sliders keep the wheel, every other control lets it scroll the view: an ignored event goes on
     // to the parent widgets. The asymmetry is deliberate.
     if (event->type() == QEvent::Wheel && !qobject_cast<QSlider *>(watched)) {

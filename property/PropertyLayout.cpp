@@ -2,12 +2,14 @@
 
 #include <QChildEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
 #include <limits>
+#include <typeinfo>
 
 namespace Tessark::PropertyUI {
 
@@ -98,6 +100,23 @@ public:
     }
 };
 
+/// Whether the item is of exactly that class.
+template <typename Item>
+bool isOfClass(const QLayoutItem &item)
+{
+    return typeid(item) == typeid(Item);
+}
+
+/// An item that asks widget for its size hints with each pass, for a widget may change them without a
+/// word. Labels and line edits of Qt always tell; the items of these keep the hints until then.
+QWidgetItem *makeRowItem(QWidget *widget)
+{
+    const std::type_info &type = typeid(*widget);
+    if (type == typeid(QLabel) || type == typeid(QLineEdit))
+        return new QWidgetItemV2(widget);
+    return new RowItem(widget);
+}
+
 /// Lets widgets that leave their parent leave the layout too. A layout does that itself, but not
 /// while it is disabled, and would keep the item of a deleted widget.
 class LeavingWidgets final : public QObject
@@ -150,8 +169,9 @@ struct PropertyLayout::RowPlace
     qint64 left = 0;
     qint64 top = 0;
     int labelWidth = 0;
-    qint64 fullWidth = 0;  // of the whole layout, margins included
-    bool mirrored = false; // within fullWidth
+    qint64 fullWidth = 0;                  // of the whole layout, margins included
+    bool mirrored = false;                 // within fullWidth
+    QPointer<const PropertyLayout> layout; // null once a host deleted it
 };
 
 bool PropertyLayout::Entry::expandsHorizontally() const
@@ -288,8 +308,8 @@ void PropertyLayout::addItem(QLayoutItem *item, LayoutOptions options, Qt::Align
         else if (widget->property("endGroup").toBool())
             options |= EndGroup;
     }
-    const bool isRowItem = dynamic_cast<RowItem *>(item) != nullptr;
-    m_items.push_back({item, options, -1, -1, alignment, isRowItem});
+    const bool isRowItem = isOfClass<RowItem>(*item) || isOfClass<QWidgetItemV2>(*item);
+    m_items.push_back({item, options, -1, -1, alignment, isRowItem, false, false});
     ++m_revision;
     m_cachedSizeHint = QSize();
     m_cachedMinimumSize = QSize();
@@ -325,7 +345,7 @@ void PropertyLayout::addChildItem(QWidget *widget, LayoutOptions options)
     if (!widget)
         return;
     addChildWidget(widget);
-    addItem(new RowItem(widget), options, Qt::AlignCenter);
+    addItem(makeRowItem(widget), options, Qt::AlignCenter);
 }
 
 void PropertyLayout::setVerticalSpacing(int spacing)
@@ -414,15 +434,17 @@ QSize PropertyLayout::arrange(const QRect &rect, bool testOnly, qint64 *right) c
     place.labelWidth = total.labelWidth;
     place.fullWidth = rect.width();
     place.mirrored = host && host->isRightToLeft();
+    place.layout = this;
     qint64 depth = 0;
     Row row;
     for (std::size_t i = 0; i < m_items.size(); ++i) {
-        const LayoutOptions options = m_items[i].options;
-        if (options & BeginGroup)
+        Entry &entry = m_items[i];
+        if (entry.options & BeginGroup)
             ++depth;
-        else if (options & EndGroup)
+        else if (entry.options & EndGroup)
             --depth;
-        if (m_items[i].item->isEmpty())
+        entry.isShown = !entry.item->isEmpty();
+        if (!entry.isShown)
             continue;
         beginRowAt(i, total.labelWidth, row);
         if (!endsRow(i))
@@ -514,8 +536,9 @@ void PropertyLayout::sizeRow(Row &row, qint64 rowSpace, Measure &measure) const
     row.heightFloor = 0;
     row.expandsVertically = false;
     for (std::size_t i = row.first; i <= row.last; ++i) {
-        if (!m_items[i].item->isEmpty())
-            sizeItem(m_items[i], row, spareWidth);
+        Entry &entry = m_items[i];
+        if (entry.isShown)
+            sizeItem(entry, row, spareWidth);
     }
     if (!row.expandsVertically)
         return;
@@ -534,6 +557,7 @@ void PropertyLayout::sizeItem(Entry &entry, Row &row, qint64 &spareWidth) const
         --row.expandCount;
     }
     const bool fillsRow = entry.expandsVertically();
+    entry.fillsRow = fillsRow;
     QSize minimum = hint;
     QSize maximum = hint;
     if (fillsRow || entry.width < hint.width() || !entry.hintIsWithinBounds()) {
@@ -582,7 +606,6 @@ qint64 PropertyLayout::rightEdge(const Row &row, const RowPlace &place) const
 /// delete the layout: row and the caller's indexes are void then, and nothing may be touched.
 bool PropertyLayout::placeRow(const Row &row, const RowPlace &place) const
 {
-    const QPointer<const PropertyLayout> self(this);
     const quint32 revision = m_revision;
     qint64 x = place.left;
     for (std::size_t i = row.first; i <= row.last; ++i) {
@@ -591,12 +614,12 @@ bool PropertyLayout::placeRow(const Row &row, const RowPlace &place) const
         if (isRowLabel)
             x += qint64(place.labelWidth) - entry.width;
         // A fixed item keeps its size-hint height even where its maximum made the row lower.
-        const bool fillsRow = entry.expandsVertically();
+        const bool fillsRow = entry.isShown ? entry.fillsRow : entry.expandsVertically();
         const int height = fillsRow ? row.height : entry.height;
         const qint64 y = fillsRow ? place.top : place.top + (qint64(row.height) - height) / 2;
         const qint64 left = place.mirrored ? place.fullWidth - x - entry.width : x;
         entry.item->setGeometry(rectangle(left, y, entry.width, height));
-        if (!self || m_revision != revision)
+        if (!place.layout || m_revision != revision)
             return false;
         if (isRowLabel)
             x = place.left + place.labelWidth + m_labelSpacing;

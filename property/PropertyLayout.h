@@ -108,6 +108,8 @@ private:
         int height = -1; // size hint as measured
         Qt::Alignment alignment;
         bool isRowItem = false; // made by the layout for a widget
+        bool isShown = false;   // as the pass found it
+        bool fillsRow = false;  // of one that is shown: takes the height of its row
 
         bool isLabel() const { return (options & NewRow) && !(options & FullWidth); }
         bool expandsHorizontally() const;

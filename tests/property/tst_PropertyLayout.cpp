@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QTest>
 
@@ -26,6 +27,9 @@ constexpr auto kExpandVertical = PropertyLayout::ExpandVertical;
 constexpr auto kFullWidth = PropertyLayout::FullWidth;
 constexpr auto kBeginGroup = PropertyLayout::BeginGroup;
 constexpr auto kEndGroup = PropertyLayout::EndGroup;
+
+/// Changes what makes the size hint of a label or a line edit.
+using HintChange = std::function<void(QLabel *, QLineEdit *)>;
 
 /// Runs a callback when shown, hidden or resized, as a host's own editor widget might.
 class CallbackWidget final : public FixedHintWidget
@@ -66,6 +70,8 @@ private:
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(HintChange)
 
 class tst_PropertyLayout : public QObject
 {
@@ -129,6 +135,9 @@ private Q_SLOTS:
     void measuringMovesNothing();
     void placingReportsGivenWidth();
     void measuresEachItemOnce();
+    void silentChangeOfHintIsSeen();
+    void labelsAndLineEditsTellTheirHints_data();
+    void labelsAndLineEditsTellTheirHints();
 
     void labelAndFieldSitInTheirColumns();
     void rectangleOriginIsNotAdded();
@@ -905,6 +914,78 @@ void tst_PropertyLayout::measuresEachItemOnce()
 
     QCOMPARE(label->measurements(), 1);
     QCOMPARE(field->measurements(), 1);
+}
+
+void tst_PropertyLayout::silentChangeOfHintIsSeen()
+{
+    FixedHintWidget *label = add(QSize(40, 20), kNewRow);
+    const FixedHintWidget *field = add(QSize(20, 20), kExpandHorizontal);
+    place(300, 100);
+
+    label->setHint(QSize(60, 20));
+    place(300, 100);
+
+    QCOMPARE(field->geometry(), QRect(74, 4, 222, 20));
+}
+
+void tst_PropertyLayout::labelsAndLineEditsTellTheirHints_data()
+{
+    QTest::addColumn<HintChange>("change");
+
+    QTest::newRow("text") << HintChange(
+        [](QLabel *label, QLineEdit *) { label->setText(QStringLiteral("a much longer label")); });
+    QTest::newRow("margin of the label")
+        << HintChange([](QLabel *label, QLineEdit *) { label->setMargin(30); });
+    QTest::newRow("margins of the text")
+        << HintChange([](QLabel *, QLineEdit *field) { field->setTextMargins(20, 30, 20, 30); });
+    QTest::newRow("frame") << HintChange(
+        [](QLabel *, QLineEdit *field) { field->setFrame(false); });
+    QTest::newRow("fonts") << HintChange([](QLabel *label, QLineEdit *field) {
+        QFont font = label->font();
+        font.setPixelSize(60);
+        label->setFont(font);
+        field->setFont(font);
+    });
+    QTest::newRow("font of the panel") << HintChange([](QLabel *label, QLineEdit *) {
+        QFont font = label->font();
+        font.setPixelSize(60);
+        label->parentWidget()->setFont(font);
+    });
+    QTest::newRow("style sheet of the panel") << HintChange([](QLabel *label, QLineEdit *) {
+        label->parentWidget()->setStyleSheet(QStringLiteral("QLabel, QLineEdit { padding: 30px }"));
+    });
+    QTest::newRow("least size") << HintChange(
+        [](QLabel *, QLineEdit *field) { field->setMinimumSize(400, 90); });
+    QTest::newRow("greatest size")
+        << HintChange([](QLabel *, QLineEdit *field) { field->setMaximumSize(50, 5); });
+    QTest::newRow("policy") << HintChange([](QLabel *, QLineEdit *field) {
+        field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    });
+}
+
+/// Their hints are kept between the passes.
+void tst_PropertyLayout::labelsAndLineEditsTellTheirHints()
+{
+    QFETCH(HintChange, change);
+    m_layout->addRow(QStringLiteral("Label:"), new QLineEdit);
+    auto *const label = m_host->findChild<QLabel *>();
+    auto *const field = m_host->findChild<QLineEdit *>();
+    m_host->resize(300, 100);
+    m_host->show();
+    place(300, 100);
+    const QRect before[] = {label->geometry(), field->geometry()};
+
+    change(label, field);
+    place(300, 100);
+
+    const QRect after[] = {label->geometry(), field->geometry()};
+    QVERIFY(after[0] != before[0] || after[1] != before[1]);
+    PropertyLayout fresh(4); // items of its own, which have kept nothing
+    fresh.addItem(new QWidgetItem(label), kNewRow, Qt::AlignCenter);
+    fresh.addItem(new QWidgetItem(field), kExpandHorizontal, Qt::AlignCenter);
+    fresh.setGeometry(QRect(0, 0, 300, 100));
+    QCOMPARE(after[0], label->geometry());
+    QCOMPARE(after[1], field->geometry());
 }
 
 // Placing across

@@ -1,15 +1,21 @@
 #include "host/NumberFieldWidths_p.h"
 
+#include <property/PropertyEditorPanel.h>
 #include <property/PropertyLayout.h>
 
+#include <QApplication>
 #include <QEvent>
 #include <QHash>
+#include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 
 #include <algorithm>
+#include <utility>
 
 namespace Tessark::PropertyHost {
+
+using namespace PropertyUI;
 
 namespace {
 
@@ -23,8 +29,7 @@ bool isFixed(const QWidget &widget)
 
 bool isWholeRow(const QWidget &widget)
 {
-    return widget.parentWidget()
-           && qobject_cast<PropertyUI::PropertyLayout *>(widget.parentWidget()->layout());
+    return widget.parentWidget() && qobject_cast<PropertyLayout *>(widget.parentWidget()->layout());
 }
 
 /// Of the number in such a field, with all of its decimals.
@@ -67,8 +72,9 @@ int wantedWidth(const QDoubleSpinBox &box)
 
 } // namespace
 
-NumberFieldWidths::NumberFieldWidths(QWidget *panel)
+NumberFieldWidths::NumberFieldWidths(PropertyEditorPanel *panel)
     : QObject(panel)
+    , m_panel(panel)
 {
     const QList<QDoubleSpinBox *> boxes = panel->findChildren<QDoubleSpinBox *>();
     for (QDoubleSpinBox *const box : boxes) {
@@ -77,15 +83,21 @@ NumberFieldWidths::NumberFieldWidths(QWidget *panel)
         m_fields.push_back({box, pageOfOnlyField(*box), box->minimumWidth()});
         box->installEventFilter(this);
     }
+    watchRuns(*panel);
     update();
 }
 
 void NumberFieldWidths::updateLater()
 {
-    if (m_isPending)
-        return;
+    m_mayShrink = true;
     m_isPending = true;
-    QMetaObject::invokeMethod(this, &NumberFieldWidths::update, Qt::QueuedConnection);
+    schedule();
+}
+
+void NumberFieldWidths::growLater()
+{
+    m_isPending = true;
+    schedule();
 }
 
 bool NumberFieldWidths::eventFilter(QObject *watched, QEvent *event)
@@ -96,15 +108,60 @@ bool NumberFieldWidths::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
+void NumberFieldWidths::watchRuns(const PropertyEditorPanel &panel)
+{
+    QVector<PropertyEditor *> editors;
+    panel.getEditors(editors, QString());
+    for (PropertyEditor *editor : std::as_const(editors)) {
+        if (!editor)
+            continue;
+        connect(editor, &PropertyEditor::startInteractiveChange, this,
+                [this, editor] { m_run = editor; });
+        connect(editor, &PropertyEditor::endInteractiveChange, this, [this, editor] {
+            if (m_run == editor)
+                m_run = nullptr;
+            if (m_isPending)
+                schedule();
+        });
+    }
+}
+
+void NumberFieldWidths::schedule()
+{
+    if (std::exchange(m_isScheduled, true))
+        return;
+    QMetaObject::invokeMethod(this, &NumberFieldWidths::updateUnlessAtWork, Qt::QueuedConnection);
+}
+
+void NumberFieldWidths::updateUnlessAtWork()
+{
+    m_isScheduled = false;
+    if (m_isPending && !isUserAtWork())
+        update();
+}
+
+/// A field that just has the focus does not hold anything up.
+bool NumberFieldWidths::isUserAtWork() const
+{
+    const QWidget *const focused = QApplication::focusWidget();
+    const auto *const line = m_run && focused && m_panel->isAncestorOf(focused)
+                                 ? focused->findChild<QLineEdit *>()
+                                 : nullptr;
+    const bool isDragging = m_run && QApplication::mouseButtons() != Qt::NoButton;
+    return isDragging || (line && line->isModified());
+}
+
 void NumberFieldWidths::update()
 {
     m_isPending = false;
+    const bool mayShrink = std::exchange(m_mayShrink, false);
     QHash<const QWidget *, int> widest; // by page
     for (Field &field : m_fields) {
         if (!field.box)
             continue;
         field.box->ensurePolished();
-        field.width = std::max(field.smallest, wantedWidth(*field.box));
+        field.width =
+            std::max({field.smallest, wantedWidth(*field.box), mayShrink ? 0 : field.width});
         if (field.page)
             widest[field.page] = std::max(widest.value(field.page), field.width);
     }

@@ -4,9 +4,11 @@
 #include <property/PropertyLayout.h>
 
 #include <QApplication>
+#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QHash>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 
@@ -56,18 +58,30 @@ int frameWidth(const QDoubleSpinBox &box)
 
 /// Of a field that is the only one of its row, the page that the row lies on: such fields stand below one
 /// another there. Null for others.
-const QWidget *pageOfOnlyField(const QDoubleSpinBox &box)
+const QWidget *pageOfOnlyField(const QAbstractSpinBox &box)
 {
     const QWidget *row = box.parentWidget();
     while (row && !isWholeRow(*row))
         row = row->parentWidget();
-    const bool isOnly = row && row->findChildren<QDoubleSpinBox *>().size() == 1;
+    const bool isOnly = row && row->findChildren<QAbstractSpinBox *>().size() == 1;
     return isOnly ? row->parentWidget() : nullptr;
 }
 
-int wantedWidth(const QDoubleSpinBox &box)
+/// A box of whole numbers has room for its range by itself.
+int wantedWidth(const QAbstractSpinBox &field)
 {
-    return frameWidth(box) + std::max(textWidth(box, box.minimum()), textWidth(box, box.maximum()));
+    const auto *const box = qobject_cast<const QDoubleSpinBox *>(&field);
+    return box ? frameWidth(*box)
+                     + std::max(textWidth(*box, box->minimum()), textWidth(*box, box->maximum()))
+               : field.sizeHint().width();
+}
+
+void setWidth(QAbstractSpinBox &field, int width)
+{
+    if (qobject_cast<const QDoubleSpinBox *>(&field))
+        field.setFixedSize(width, field.sizeHint().height());
+    else
+        field.setMinimumWidth(width);
 }
 
 } // namespace
@@ -76,11 +90,13 @@ NumberFieldWidths::NumberFieldWidths(PropertyEditorPanel *panel)
     : QObject(panel)
     , m_panel(panel)
 {
-    const QList<QDoubleSpinBox *> boxes = panel->findChildren<QDoubleSpinBox *>();
-    for (QDoubleSpinBox *const box : boxes) {
-        if (!isFixed(*box) || isWholeRow(*box))
+    const QList<QAbstractSpinBox *> boxes = panel->findChildren<QAbstractSpinBox *>();
+    for (QAbstractSpinBox *const box : boxes) {
+        const bool isWhole = qobject_cast<const QSpinBox *>(box);
+        const QWidget *const page = pageOfOnlyField(*box);
+        if (isWholeRow(*box) || isFixed(*box) == isWhole || (isWhole && !page))
             continue;
-        m_fields.push_back({box, pageOfOnlyField(*box), box->minimumWidth()});
+        m_fields.push_back({box, page, box->minimumWidth()});
         box->installEventFilter(this);
     }
     watchRuns(*panel);
@@ -167,8 +183,7 @@ void NumberFieldWidths::update()
     }
     for (const Field &field : m_fields) {
         if (field.box)
-            field.box->setFixedSize(widest.value(field.page, field.width),
-                                    field.box->sizeHint().height());
+            setWidth(*field.box, widest.value(field.page, field.width));
     }
 }
 

@@ -144,6 +144,7 @@ void tst_NumberFieldWidths::fieldsOfAPageAreEquallyWide()
 {
     addGain(-1000, 1000).suffix(QStringLiteral(" dB"));
     m_list.number(QStringLiteral("mix"), QStringLiteral("Mix")).range(0, 1);
+    m_list.integer(QStringLiteral("count"), QStringLiteral("Count")).range(0, 9);
     m_list.vec2(QStringLiteral("aim"), QStringLiteral("Aim"))
         .range(QVector2D(0, 0), QVector2D(1, 1))
         .showSliders();
@@ -152,6 +153,7 @@ void tst_NumberFieldWidths::fieldsOfAPageAreEquallyWide()
     const auto boxes = m_view->findChildren<QDoubleSpinBox *>();
     QCOMPARE(boxes.size(), 4);
     QCOMPARE(boxes.at(0)->width(), boxes.at(1)->width());
+    QCOMPARE(m_view->findChild<QSpinBox *>()->width(), boxes.at(0)->width());
     QVERIFY(boxes.at(2)->width() < boxes.at(1)->width());
 }
 
@@ -226,19 +228,20 @@ void tst_NumberFieldWidths::boundsThatRulesMoveFit()
 
 void tst_NumberFieldWidths::wholeNumbersWhoseBoundsMoveFit()
 {
-    addFollowing();
+    m_list.integer(QStringLiteral("limit"), QStringLiteral("Limit")).range(0, 90).defaultValue(1);
     m_list.integer(QStringLiteral("count"), QStringLiteral("Count"))
         .range(0, 10)
-        .maximumFollows(QStringLiteral("limit"));
+        .maximumFollows(QStringLiteral("limit * 10000"));
     show();
-    const auto *const count = m_view->findChild<QSpinBox *>();
-    const int width = count->width();
+    const auto boxes = m_view->findChildren<QSpinBox *>();
+    const int width = boxes.at(1)->width();
 
-    setLimit(kHigh);
+    setLimit(80);
 
-    QTRY_COMPARE(count->maximum(), int(kHigh));
-    QTRY_VERIFY(count->width() >= count->sizeHint().width());
-    QVERIFY(count->width() > width);
+    QTRY_COMPARE(boxes.at(1)->maximum(), 800000);
+    QTRY_VERIFY(boxes.at(1)->width() > width);
+    QVERIFY(boxes.at(1)->width() >= boxes.at(1)->sizeHint().width());
+    QTRY_COMPARE(boxes.at(0)->width(), boxes.at(1)->width());
 }
 
 void tst_NumberFieldWidths::boundsThatMoveBackLeaveTheWidth()

@@ -139,12 +139,12 @@ private:
     /// Of a text that is put together, each part is looked at.
     bool isUntranslated(QString text) const
     {
-        static const QRegularExpression tag(QStringLiteral("</?[a-z]+/?>"));
+        static const QRegularExpression tagOrBreak(QStringLiteral("</?[a-z]+/?>|[\n\u2028]"));
         static const QRegularExpression innermost(
             QStringLiteral("[\u27e6\u27ea][^\u27e6-\u27eb]*[\u27e7\u27eb]"));
         text.remove(QLatin1Char('&'));
         text.remove(QStringLiteral("[*]")); // where the title of a window tells of changes
-        text.remove(tag);
+        text.replace(tagOrBreak, QStringLiteral(","));
         if (m_hostTexts.contains(text))
             return false;
         while (text.contains(innermost))

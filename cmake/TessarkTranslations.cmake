@@ -3,8 +3,11 @@
 
 set(TESSARK_LANGUAGES ar de en fr ja)
 
-get_target_property(tessark_qmake Qt${TESSARK_QT_MAJOR}::qmake IMPORTED_LOCATION)
-get_filename_component(tessark_qt_tools "${tessark_qmake}" DIRECTORY)
+set(tessark_qt_tools "")
+if(TARGET Qt${TESSARK_QT_MAJOR}::qmake) # the tools lie beside it
+    get_target_property(tessark_qmake Qt${TESSARK_QT_MAJOR}::qmake IMPORTED_LOCATION)
+    get_filename_component(tessark_qt_tools "${tessark_qmake}" DIRECTORY)
+endif()
 foreach(tool lrelease lupdate)
     string(TOUPPER ${tool} upper_tool)
     find_program(TESSARK_${upper_tool} ${tool} PATHS ${tessark_qt_tools} NO_DEFAULT_PATH)

@@ -7,12 +7,15 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOption>
@@ -25,6 +28,7 @@ namespace Tessark::PropertyHost {
 namespace {
 
 constexpr QChar kDash(0x2014);
+constexpr int kBarsPerIndicator = 6; // in its height
 
 QColor textColor(const QWidget &widget)
 {
@@ -64,16 +68,35 @@ bool paintComboBox(QComboBox *box)
     return true;
 }
 
-bool paintCheckBox(QCheckBox *box)
+QStyleOptionButton optionOf(const QAbstractButton &button, QStyle::StateFlag state)
 {
     QStyleOptionButton option;
-    option.initFrom(box);
-    option.state |= box->isDown() ? QStyle::State_Sunken : QStyle::State_None;
-    option.state |= QStyle::State_NoChange;
-    option.text = box->text();
-    option.icon = box->icon();
-    option.iconSize = box->iconSize();
-    QStylePainter(box).drawControl(QStyle::CE_CheckBox, option);
+    option.initFrom(&button);
+    option.state |= button.isDown() ? QStyle::State_Sunken : QStyle::State_None;
+    option.state |= state;
+    option.text = button.text();
+    option.icon = button.icon();
+    option.iconSize = button.iconSize();
+    return option;
+}
+
+bool paintCheckBox(QCheckBox *box)
+{
+    QStylePainter(box).drawControl(QStyle::CE_CheckBox, optionOf(*box, QStyle::State_NoChange));
+    return true;
+}
+
+/// With a bar in the place of the dot, as check boxes have one; styles have no such radio buttons.
+bool paintRadioButton(QRadioButton *button)
+{
+    const QStyleOptionButton option = optionOf(*button, QStyle::State_Off);
+    QStylePainter painter(button);
+    painter.drawControl(QStyle::CE_RadioButton, option);
+    const QRectF indicator =
+        button->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, button);
+    QRectF bar(0, 0, indicator.width() / 2, std::max(indicator.height() / kBarsPerIndicator, 2.0));
+    bar.moveCenter(indicator.center());
+    painter.fillRect(bar, option.palette.brush(QPalette::Text));
     return true;
 }
 
@@ -84,10 +107,28 @@ void drawGroove(QSlider *slider)
     option.initFrom(slider);
     option.orientation = slider->orientation();
     option.maximum = 1;
+    // As the slider itself says it, or styles fill the other end.
+    option.upsideDown =
+        slider->orientation() == Qt::Vertical || slider->layoutDirection() == Qt::RightToLeft;
+    option.direction = Qt::LeftToRight;
     option.subControls = QStyle::SC_SliderGroove;
     option.state |=
         slider->orientation() == Qt::Horizontal ? QStyle::State_Horizontal : QStyle::State_None;
     QStylePainter(slider).drawComplexControl(QStyle::CC_Slider, option);
+}
+
+/// Says so upon what the widget shows, if there is room.
+void drawPlate(QPainter &painter, const QWidget &widget, Qt::Alignment place,
+               QPalette::ColorRole ground)
+{
+    const QString text = MixedPainter::tr("Several values");
+    const QSize size =
+        widget.fontMetrics().boundingRect(text).adjusted(-6, -3, 6, 3).size(); // italics are wider
+    if (size.width() > widget.width() || size.height() > widget.height())
+        return;
+    const QRect area = QStyle::alignedRect(widget.layoutDirection(), place, size, widget.rect());
+    painter.fillRect(area, widget.palette().brush(ground));
+    drawText(painter, widget, area, text, Qt::AlignHCenter);
 }
 
 /// Hatching tells without colours that what is behind it is no value.
@@ -95,14 +136,7 @@ void paintHatching(QWidget &widget)
 {
     QPainter painter(&widget);
     painter.fillRect(widget.rect(), QBrush(textColor(widget), Qt::BDiagPattern));
-    const QString text = MixedPainter::tr("Several values");
-    const QRect plate = widget.fontMetrics().boundingRect(text).adjusted(-6, -3, 6, 3);
-    if (plate.width() > widget.width() || plate.height() > widget.height())
-        return;
-    QRect area = plate;
-    area.moveCenter(widget.rect().center());
-    painter.fillRect(area, widget.palette().brush(QPalette::Window));
-    drawText(painter, widget, area, text, Qt::AlignHCenter);
+    drawPlate(painter, widget, Qt::AlignCenter, QPalette::Window);
 }
 
 bool isBlank(const QLineEdit *line)
@@ -118,6 +152,13 @@ bool canBeEmpty(const QWidget *widget)
     return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget)
            || qobject_cast<const QAbstractItemView *>(widget)
            || qobject_cast<const QAbstractButton *>(widget);
+}
+
+/// The list around a viewport, or null.
+const QAbstractItemView *listAround(const QWidget *viewport)
+{
+    const auto *const list = qobject_cast<const QAbstractItemView *>(viewport->parentWidget());
+    return list && list->viewport() == viewport ? list : nullptr;
 }
 
 } // namespace
@@ -161,7 +202,9 @@ bool MixedPainter::eventFilter(QObject *watched, QEvent *event)
         return !isBlanked() || isAnyBlank() ? paintComboBox(box) : false;
     if (auto *const box = qobject_cast<QCheckBox *>(widget))
         return !isBlanked() && paintCheckBox(box);
-    return paintOther(widget, event);
+    if (auto *const button = qobject_cast<QRadioButton *>(widget))
+        return !(isBlanked() && isAnyChosen()) && paintRadioButton(button);
+    return listAround(widget) ? paintList(widget, event) : paintOther(widget, event);
 }
 
 void MixedPainter::watchControls()
@@ -170,13 +213,16 @@ void MixedPainter::watchControls()
     widgets.prepend(m_field);
     bool isKnown = false;
     for (QWidget *const widget : std::as_const(widgets)) {
-        const bool isPainted = qobject_cast<QLineEdit *>(widget) || qobject_cast<QSlider *>(widget)
-                               || qobject_cast<QComboBox *>(widget)
-                               || qobject_cast<QCheckBox *>(widget)
-                               || qobject_cast<UI::ColorWheel *>(widget);
+        const bool isPainted =
+            qobject_cast<QLineEdit *>(widget) || qobject_cast<QSlider *>(widget)
+            || qobject_cast<QComboBox *>(widget) || qobject_cast<QCheckBox *>(widget)
+            || qobject_cast<QRadioButton *>(widget) || qobject_cast<UI::ColorWheel *>(widget);
         isKnown = isKnown || isPainted || canBeEmpty(widget);
         if (isPainted)
             watch(widget);
+        auto *const list = qobject_cast<QAbstractItemView *>(widget);
+        if (list && list->window() == m_field->window())
+            watchList(list);
     }
     if (!isKnown)
         watch(m_field);
@@ -186,6 +232,14 @@ void MixedPainter::watch(QWidget *widget)
 {
     m_watched.append(widget);
     widget->installEventFilter(this);
+}
+
+/// Scrolling moves what was painted of it.
+void MixedPainter::watchList(QAbstractItemView *list)
+{
+    watch(list->viewport());
+    for (QScrollBar *const bar : {list->horizontalScrollBar(), list->verticalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, this, &MixedPainter::update);
 }
 
 /// Whether somebody makes the fields of the row blank whose numbers are not everyone's.
@@ -200,6 +254,15 @@ bool MixedPainter::isAnyBlank() const
     return m_numbers.isEmpty() || std::any_of(m_numbers.cbegin(), m_numbers.cend(), isBlank);
 }
 
+/// A choice that is everyone's, though other parts of the row are not.
+bool MixedPainter::isAnyChosen() const
+{
+    const auto buttons =
+        m_field ? m_field->findChildren<QRadioButton *>() : QList<QRadioButton *>();
+    return std::any_of(buttons.begin(), buttons.end(),
+                       [](const QRadioButton *button) { return button->isChecked(); });
+}
+
 bool MixedPainter::paintNumber(QLineEdit *line, QEvent *event)
 {
     const bool blank = isBlank(line);
@@ -212,9 +275,11 @@ bool MixedPainter::paintNumber(QLineEdit *line, QEvent *event)
     QPainter painter(line);
     if (isTextAway)
         painter.fillRect(line->rect(), line->palette().brush(QPalette::Base));
+    // A line does not mirror what has no letters of such a language, numbers among it.
+    painter.setLayoutDirection(Qt::LeftToRight);
     const QString affixes = blank ? line->text() : QString();
     drawText(painter, *line, line->rect().adjusted(2, 0, -2, 0), kDash + affixes,
-             line->alignment());
+             line->alignment() | Qt::AlignAbsolute);
     return true;
 }
 
@@ -238,6 +303,20 @@ bool MixedPainter::paintSlider(QSlider *slider)
     if (isBlanked() && hasValue)
         return false;
     drawGroove(slider);
+    return true;
+}
+
+/// Nothing is selected in it, which does not tell why. The list itself paints in its own event filter.
+bool MixedPainter::paintList(QWidget *viewport, QEvent *event)
+{
+    if (isBlanked() && listAround(viewport)->selectionModel()->hasSelection())
+        return false;
+    {
+        const QScopedValueRollback<bool> painting(m_isPainting, true);
+        QCoreApplication::sendEvent(viewport, event);
+    }
+    QPainter painter(viewport);
+    drawPlate(painter, *viewport, Qt::AlignBottom | Qt::AlignRight, QPalette::Base);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QVector>
 
+class QAbstractItemView;
 class QLineEdit;
 class QSlider;
 class QWidget;
@@ -11,8 +12,8 @@ class QWidget;
 namespace Tessark::PropertyHost {
 
 /// While it lives, the controls of a mixed row are drawn without a value: a dash where a number would
-/// be, a choice that is none, a groove without handle, hatching over what else shows a value. What the
-/// controls hold, and how they take mouse and keys, stays as it is.
+/// be, a choice that is none, a bar where a button would be chosen, a groove without handle, words in a
+/// list without selection, hatching over what else shows a value. What the controls hold, and how they take mouse and keys, stays as it is.
 ///
 /// A field that shows something has a number of everyone's, or one that the user types, and is drawn as
 /// ever, with its slider; unless nobody blanks the fields of the row, which the dynamic property "mixed"
@@ -33,11 +34,14 @@ public:
 private:
     void watchControls();
     void watch(QWidget *widget);
+    void watchList(QAbstractItemView *list);
     bool isBlanked() const;
     bool isAnyBlank() const;
+    bool isAnyChosen() const;
     bool paintNumber(QLineEdit *line, QEvent *event);
     bool paintText(QLineEdit *line, QEvent *event);
     bool paintSlider(QSlider *slider);
+    bool paintList(QWidget *viewport, QEvent *event);
     bool paintOther(QWidget *widget, QEvent *event);
     void paintByItself(QWidget *widget, QEvent *event);
 

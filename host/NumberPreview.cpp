@@ -10,6 +10,18 @@ namespace {
 
 constexpr int kPadding = 3; // pixels
 
+/// What the widgets around show of the widget, or all of it when they show nothing.
+QRect seenPart(const QWidget &widget)
+{
+    QRect seen = widget.rect();
+    for (const QWidget *around = &widget; !around->isWindow() && around->parentWidget();
+         around = around->parentWidget()) {
+        const QPoint start = widget.mapTo(around->parentWidget(), QPoint());
+        seen &= around->parentWidget()->rect().translated(-start);
+    }
+    return seen.isEmpty() ? widget.rect() : seen;
+}
+
 } // namespace
 
 NumberPreview::NumberPreview(QWidget *parent)
@@ -28,16 +40,22 @@ NumberPreview::NumberPreview(QWidget *parent)
     hide();
 }
 
+/// What scrolls shows a part of its widget only.
 void NumberPreview::showAt(const QWidget &field, const QString &text)
 {
     setText(text);
     const QWidget &parent = *parentWidget();
-    const QSize size = sizeHint().boundedTo(parent.size());
+    const QRect seen = seenPart(parent);
+    setWordWrap(false);
+    setWordWrap(sizeHint().width() > seen.width());
+    const QSize wanted =
+        wordWrap() ? QSize(seen.width(), heightForWidth(seen.width())) : sizeHint();
+    const QSize size = wanted.boundedTo(seen.size());
     const QPoint start = field.mapTo(&parent, QPoint(0, 0));
     const int below = start.y() + field.height();
-    const bool fitsBelow = below + size.height() <= parent.height();
-    const int x = std::clamp(start.x(), 0, parent.width() - size.width());
-    const int y = fitsBelow ? below : std::max(start.y() - size.height(), 0);
+    const bool fitsBelow = below + size.height() <= seen.bottom() + 1;
+    const int x = std::clamp(start.x(), seen.left(), seen.right() + 1 - size.width());
+    const int y = fitsBelow ? below : std::max(start.y() - size.height(), seen.top());
     setGeometry(QRect(QPoint(x, y), size));
     raise();
     show();

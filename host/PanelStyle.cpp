@@ -173,8 +173,9 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     };
     if (control == CC_Slider && option->subControls.testFlag(SC_SliderGroove)) {
         painter->save();
-        painter->setClipRegion(QRegion(option->rect).subtracted(rectOf(SC_SliderHandle)),
-                               Qt::IntersectClip);
+        const bool hasHandle = option->subControls.testFlag(SC_SliderHandle);
+        const QRect handle = hasHandle ? rectOf(SC_SliderHandle) : QRect();
+        painter->setClipRegion(QRegion(option->rect).subtracted(handle), Qt::IntersectClip);
         drawOutline(Shape::Round, rectOf(SC_SliderGroove), *option, painter, widget);
         painter->restore();
     }

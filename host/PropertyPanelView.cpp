@@ -395,6 +395,7 @@ void PropertyPanelView::replacePanel(ViewPanel *panel)
     delete m_panel;
     m_panel = panel;
     m_numberFields = new NumberFieldWidths(panel);
+    connect(panel, &ViewPanel::rangeShown, m_numberFields, &NumberFieldWidths::growLater);
     m_extent = new PanelExtent(panel->rows(), panel);
     connect(&panel->visibility(), &RowVisibility::pageChanges, m_extent, &PanelExtent::pageChanges);
     m_splitter = new LabelSplitter(panel->rows(), panel);

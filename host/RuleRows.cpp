@@ -96,6 +96,8 @@ void RuleRows::showRange(Property *property, const QVariant &value)
         if (editor)
             editor->blockSignals(false);
     }
+    if (self)
+        tellRange(m_panel);
 }
 
 bool RuleRows::eventFilter(QObject *watched, QEvent *event)

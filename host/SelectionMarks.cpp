@@ -3,6 +3,7 @@
 #include "host/EditorRange_p.h"
 #include "host/ValueJson.h"
 #include "host/ValueKind_p.h"
+#include "host/ViewPanel_p.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -291,6 +292,7 @@ void SelectionMarks::showRange(Property *property)
     m_panel->updateProperty(property);
     if (editor)
         renewRange(*editor);
+    tellRange(m_panel);
 }
 
 void SelectionMarks::noteEdit(const Property *property, const QVariant &value)

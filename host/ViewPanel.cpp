@@ -71,6 +71,12 @@ void ViewPanel::showGroup(PropertyEditor *group, bool)
     m_folding.groupToggled(m_rows->indexOf(group->widget(nullptr)));
 }
 
+void tellRange(PropertyEditorPanel *panel)
+{
+    if (auto *const viewPanel = dynamic_cast<ViewPanel *>(panel))
+        Q_EMIT viewPanel->rangeShown();
+}
+
 RowVisibility *visibilityOf(PropertyEditorPanel *panel)
 {
     auto *const viewPanel = dynamic_cast<ViewPanel *>(panel);

@@ -48,6 +48,9 @@ Q_SIGNALS:
     /// The host was told of an edit.
     void valueEdited(PropertyUI::Property *property);
 
+    /// A row has been shown another range than its property had, see tellRange().
+    void rangeShown();
+
     /// The user asks for a menu that the control does not have. Who opens one accepts the request; else
     /// it is the panel's.
     void menuRequested(QContextMenuEvent *request);
@@ -63,6 +66,9 @@ private:
     DelegatePointer m_source;
     QVariant m_announced; // instead of what the fields say
 };
+
+/// Tells a panel that is in a view that the fields of a row have another range.
+void tellRange(PropertyUI::PropertyEditorPanel *panel);
 
 /// What decides which rows of the panel are shown; null for a panel outside of a view.
 RowVisibility *visibilityOf(PropertyUI::PropertyEditorPanel *panel);

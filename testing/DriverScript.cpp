@@ -30,8 +30,38 @@ QString whenDone(PanelDriver &driver, ScriptLine &line, Act act)
     return act() ? QString() : driver.error();
 }
 
+QString dragWheel(PanelDriver &driver, ScriptLine &line)
+{
+    line.takeOneOf(words("of"));
+    const QString row = line.take(kRow);
+    const bool isNear = line.takeOneOf(words("to near")) == QLatin1String("near");
+    const double hue = line.takeNumber();
+    const double saturation = line.takeNumber();
+    return whenDone(driver, line, [&] {
+        return isNear ? driver.dragWheelNear(row, hue, saturation)
+                      : driver.dragWheel(row, hue, saturation);
+    });
+}
+
+QString dragRing(PanelDriver &driver, ScriptLine &line)
+{
+    line.takeOneOf(words("of"));
+    const QString row = line.take(kRow);
+    const bool isNear = line.takeOneOf(words("to near")) == QLatin1String("near");
+    const double value = line.takeNumber();
+    return whenDone(driver, line, [&] {
+        return isNear ? driver.dragRingNear(row, value) : driver.dragRing(row, value);
+    });
+}
+
 QString drag(PanelDriver &driver, ScriptLine &line)
 {
+    if (line.isFollowedBy(words("of"))) { // a row may be called so
+        if (line.skip(QStringLiteral("wheel")))
+            return dragWheel(driver, line);
+        if (line.skip(QStringLiteral("ring")))
+            return dragRing(driver, line);
+    }
     const QString row = line.take(kRow);
     const bool isNear = line.takeOneOf(words("to near")) == QLatin1String("near");
     const double number = line.takeNumber();

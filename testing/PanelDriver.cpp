@@ -5,6 +5,7 @@
 #include "testing/EditRecorder.h"
 #include "testing/PanelUser_p.h"
 #include "testing/Spelling_p.h"
+#include "testing/WheelDragging_p.h"
 
 #include <property/PropertyVocabulary.h>
 
@@ -15,6 +16,27 @@
 namespace Tessark::PropertyTest {
 
 using namespace PropertyUI;
+
+namespace {
+
+std::function<QString(QWidget *)> discDrag(double hue, double saturation, PanelUser::Aim aim,
+                                           int movements)
+{
+    return [=](QWidget *field) {
+        const UI::Hsv color{hue, saturation, 0};
+        return dragWheel(field, {UI::WheelPart::Disc, color, aim}, movements);
+    };
+}
+
+std::function<QString(QWidget *)> ringDrag(double value, PanelUser::Aim aim, int movements)
+{
+    return [=](QWidget *field) {
+        const UI::Hsv color{0, 0, value};
+        return dragWheel(field, {UI::WheelPart::ValueRing, color, aim}, movements);
+    };
+}
+
+} // namespace
 
 PanelDriver::PanelDriver(QWidget *widget)
     : m_user(std::make_unique<PanelUser>(widget))
@@ -80,6 +102,30 @@ bool PanelDriver::drag(const QString &row, double number)
 bool PanelDriver::dragNear(const QString &row, double number)
 {
     return finish("drag", row, m_user->drag(row, number, PanelUser::Aim::Nearest));
+}
+
+bool PanelDriver::dragWheel(const QString &row, double hue, double saturation)
+{
+    const auto act = discDrag(hue, saturation, PanelUser::Aim::Exact, dragSteps());
+    return finish("drag wheel of", row, m_user->inRow(row, act));
+}
+
+bool PanelDriver::dragWheelNear(const QString &row, double hue, double saturation)
+{
+    const auto act = discDrag(hue, saturation, PanelUser::Aim::Nearest, dragSteps());
+    return finish("drag wheel of", row, m_user->inRow(row, act));
+}
+
+bool PanelDriver::dragRing(const QString &row, double value)
+{
+    const auto act = ringDrag(value, PanelUser::Aim::Exact, dragSteps());
+    return finish("drag ring of", row, m_user->inRow(row, act));
+}
+
+bool PanelDriver::dragRingNear(const QString &row, double value)
+{
+    const auto act = ringDrag(value, PanelUser::Aim::Nearest, dragSteps());
+    return finish("drag ring of", row, m_user->inRow(row, act));
 }
 
 bool PanelDriver::type(const QString &row, const QString &text, Ending ending)

@@ -81,6 +81,19 @@ public:
     /// The same to the pixel nearest to number.
     bool dragNear(const QString &row, double number);
 
+    /// Drags the marker on the row's colour wheel to a hue and a saturation, from 0 to 1 as ColorWheel
+    /// counts them. Fails before it touches the wheel when no pixel means them, as the row's fields
+    /// would show them.
+    bool dragWheel(const QString &row, double hue, double saturation);
+
+    /// The same to the pixel nearest to them.
+    bool dragWheelNear(const QString &row, double hue, double saturation);
+
+    /// Drags the marker on the ring around the row's colour wheel to a value (brightness) from 0 to 1,
+    /// exactly or to the nearest pixel. It goes round in 3 movements at least.
+    bool dragRing(const QString &row, double value);
+    bool dragRingNear(const QString &row, double value);
+
     /// Clicks into the row's field, selects all and types text as the field shows it. A line break is
     /// Return. A field of several lines gets no Return at the end.
     bool type(const QString &row, const QString &text, Ending ending = WithReturn);

@@ -1,26 +1,35 @@
+#include "support/EveryTypeRows.h"
 #include "support/ViewBench.h"
 
 #include <core/ColorWheel.h>
 #include <host/HostHints.h>
+#include <host/PanelStyle.h>
 #include <host/SelectionDelegate.h>
 #include <property/ValueCodecs.h>
+#include <property/editors/ImageFormatEditor.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPaintEvent>
+#include <QRadioButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSlider>
 #include <QSpinBox>
 #include <QVector3D>
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 using namespace Tessark::PropertyHost;
 using namespace Tessark::PropertyUI;
+using TestSupport::EveryTypeRows;
 using TestSupport::settleEvents;
 using TestSupport::ViewBench;
 
@@ -47,6 +56,44 @@ int difference(const QImage &left, const QImage &right)
             count += left.pixel(x, y) != right.pixel(x, y) ? 1 : 0;
     }
     return count;
+}
+
+/// Tells of each event of a type that the object gets.
+class EventRecord final : public QObject
+{
+public:
+    EventRecord(QObject *object, QEvent::Type type, std::function<void(QEvent *)> note)
+        : m_type(type)
+        , m_note(std::move(note))
+    {
+        object->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == m_type)
+            m_note(event);
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+    std::function<void(QEvent *)> m_note;
+};
+
+QVariant texture(const char *name)
+{
+    TextureChoice choice;
+    choice.name = text(name);
+    return QVariant::fromValue(choice);
+}
+
+QVariant format(const char *name, int rate)
+{
+    ImageFormatDesc description;
+    description.format = text(name);
+    description.compressionRate = rate;
+    return QVariant::fromValue(description);
 }
 
 QVariant transform(double x, double y)
@@ -83,7 +130,13 @@ private Q_SLOTS:
     void commonPartsLookAsEver();
     void dashIsInTheField();
     void suffixStays();
+    void sliderHasNoHandle_data();
     void sliderHasNoHandle();
+    void numbersAreOnTheirSideFromRightToLeft();
+    void grooveIsWholeInThePanelStyle();
+    void listSaysItInItsCorner();
+    void listIsWholeWhenItScrolls();
+    void chosenButtonOfEveryoneIsShown();
     void cursorIsSeenInBlankField();
     void typingShowsTheNumber();
     void draggingShowsTheSlider();
@@ -136,6 +189,7 @@ void tst_MixedRows::make(const std::function<void(PropertyList &)> &makeRows, Ma
     m_selection = std::make_unique<SelectionDelegate>(&m_bench->stack);
     m_selection->setMembers(members);
     m_bench->view->setProperties(m_selection->properties(), m_selection.get());
+    EveryTypeRows::setTextures(*m_bench->view->panel());
     if (marks == Marks::Attached)
         m_selection->attach(m_bench->view->panel());
     m_bench->show();
@@ -179,6 +233,15 @@ void tst_MixedRows::pictureTellsNoObjectsValue_data()
             rows.choice(r, label).choices({text("A"), text("B"), text("C")});
         },
         {0, 1, 1, 2});
+    row("radio buttons",
+        [=](PropertyList &rows) {
+            rows.choice(r, label).choices({text("A"), text("B"), text("C")}).radioButtons();
+        },
+        {0, 1, 1, 2});
+    row("texture", [=](PropertyList &rows) { rows.texture(r, label); },
+        {texture("Sand"), texture("Wood, polished"), texture("Wood, polished"), texture("Sand")});
+    row("format of a picture", [=](PropertyList &rows) { rows.imageFormat(r, label); },
+        {format("jpeg", 10), format("png", 80), format("tiff", 30), format("bmp", 5)});
     row("vector",
         [=](PropertyList &rows) {
             rows.vec3(r, label).range(QVector3D(-9, -9, -9), QVector3D(9, 9, 9)).showSliders();
@@ -286,8 +349,18 @@ void tst_MixedRows::suffixStays()
     QCOMPARE(m_bench->control<QLineEdit>("row")->text(), text(" m"));
 }
 
+void tst_MixedRows::sliderHasNoHandle_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+
+    QTest::newRow("from left to right") << Qt::LeftToRight;
+    QTest::newRow("from right to left") << Qt::RightToLeft;
+}
+
 void tst_MixedRows::sliderHasNoHandle()
 {
+    QFETCH(Qt::LayoutDirection, direction);
+    m_bench->view->setLayoutDirection(direction);
     make([](PropertyList &rows) { rows.number(text("row"), text("Row")).range(0, 9); });
     auto *const slider = m_bench->control<QSlider>("row");
     setValues("row", 0.0, 0.0);
@@ -299,11 +372,99 @@ void tst_MixedRows::sliderHasNoHandle()
 
     // Each of the two ends of the groove is as it is without handle.
     const QImage mixed = pictureOf(slider);
-    const QRect left(0, 0, 12, slider->height());
-    const QRect right(slider->width() - 12, 0, 12, slider->height());
-    QCOMPARE(difference(mixed.copy(right), atTheStart.copy(right)), 0);
-    QVERIFY(difference(mixed.copy(left), atTheStart.copy(left)) > 5);
-    QVERIFY(difference(mixed.copy(right), atTheEnd.copy(right)) > 5);
+    QRect start(0, 0, 12, slider->height());
+    QRect end(slider->width() - 12, 0, 12, slider->height());
+    if (direction == Qt::RightToLeft)
+        std::swap(start, end);
+    QCOMPARE(difference(mixed.copy(end), atTheStart.copy(end)), 0);
+    QVERIFY(difference(mixed.copy(start), atTheStart.copy(start)) > 5);
+    QVERIFY(difference(mixed.copy(end), atTheEnd.copy(end)) > 5);
+    const QRect middle(40, 0, slider->width() - 80, slider->height());
+    QCOMPARE(difference(mixed.copy(middle), atTheStart.copy(middle)), 0);
+}
+
+void tst_MixedRows::numbersAreOnTheirSideFromRightToLeft()
+{
+    m_bench->view->setLayoutDirection(Qt::RightToLeft);
+    make([](PropertyList &rows) { rows.number(text("row"), text("Row")).range(0, 9); });
+    setValues("row", 3.0, 3.0);
+    auto *const line = m_bench->control<QLineEdit>("row");
+    const QRect side(0, 0, 20, line->height());
+    QImage empty(side.size(), QImage::Format_RGB32);
+    empty.fill(line->palette().color(QPalette::Base));
+    QVERIFY(difference(pictureOf(line).copy(side), empty) > 3); // numbers are not mirrored
+
+    setValues("row", 3.0, 4.0);
+
+    QVERIFY(difference(pictureOf(line).copy(side), empty) > 3);
+}
+
+void tst_MixedRows::grooveIsWholeInThePanelStyle()
+{
+    make([](PropertyList &rows) { rows.number(text("row"), text("Row")).range(0, 9); });
+    auto *const slider = m_bench->control<QSlider>("row");
+    PanelStyle style;
+    slider->setStyle(&style);
+    setValues("row", 0.0, 9.0);
+
+    // Where a handle was at either end, the groove looks the same, mirrored.
+    const QImage mixed = pictureOf(slider);
+    const QRect left(3, 0, 9, slider->height());
+    const QRect right(slider->width() - 12, 0, 9, slider->height());
+    const int apart = difference(mixed.copy(left), mixed.copy(right).mirrored(true, false));
+    QVERIFY2(apart < 6, qPrintable(QString::number(apart)));
+    slider->setStyle(nullptr);
+}
+
+void tst_MixedRows::listSaysItInItsCorner()
+{
+    make([](PropertyList &rows) { rows.texture(text("row"), text("Row")); });
+    const auto *const list = m_bench->control<QListWidget>("row");
+    setValues("row", texture("Sand"), texture("Wood, polished"));
+    const QRect whole = list->viewport()->rect();
+    const QRect corner(whole.right() - 60, whole.bottom() - 16, 60, 16);
+    const QRect rest(0, 0, whole.width(), whole.height() - 40);
+    const QImage mixed = pictureOf(list->viewport());
+
+    setValues("row", texture("neither"), texture("neither"));
+
+    const QImage without = pictureOf(list->viewport());
+    QVERIFY(difference(mixed.copy(corner), without.copy(corner)) > 20);
+    QCOMPARE(difference(mixed.copy(rest), without.copy(rest)), 0);
+}
+
+/// What is painted of it by scrolling, and anew.
+void tst_MixedRows::listIsWholeWhenItScrolls()
+{
+    make([](PropertyList &rows) { rows.texture(text("row"), text("Row")); });
+    auto *const list = m_bench->control<QListWidget>("row");
+    for (int i = 0; i < 40; ++i)
+        list->addItem(QString::number(i));
+    setValues("row", texture("Sand"), texture("Wood, polished"));
+    QRect painted;
+    EventRecord paints(list->viewport(), QEvent::Paint, [&painted](QEvent *event) {
+        painted |= static_cast<QPaintEvent *>(event)->rect();
+    });
+
+    list->verticalScrollBar()->setValue(list->verticalScrollBar()->value() + 1);
+    settleEvents();
+
+    QCOMPARE(painted, list->viewport()->rect());
+}
+
+void tst_MixedRows::chosenButtonOfEveryoneIsShown()
+{
+    make([](PropertyList &rows) { rows.imageFormat(text("row"), text("Row")); });
+    setValues("row", format("jpeg", 50), format("jpeg", 50));
+    const auto *const jpeg = m_bench->control<QRadioButton>("row", 1);
+    const QImage chosen = pictureOf(m_bench->control<QRadioButton>("row", 1));
+    const QImage other = pictureOf(m_bench->control<QRadioButton>("row", 0));
+
+    setValues("row", format("jpeg", 50), format("jpeg", 80));
+
+    QVERIFY(jpeg->isChecked());
+    QCOMPARE(difference(pictureOf(m_bench->control<QRadioButton>("row", 1)), chosen), 0);
+    QCOMPARE(difference(pictureOf(m_bench->control<QRadioButton>("row", 0)), other), 0);
 }
 
 void tst_MixedRows::cursorIsSeenInBlankField()

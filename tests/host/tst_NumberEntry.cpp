@@ -158,6 +158,7 @@ private Q_SLOTS:
     void previewTellsTheRange();
     void previewIsAccessible();
     void previewLiesInThePanel();
+    void previewLiesWhereThePanelIsSeen();
     void percentagesAreOfTheNumberBefore();
     void numberAfterArrowsIsTheNumberBefore();
     void ownRowIsReadAsItWasBefore();
@@ -538,6 +539,31 @@ void tst_NumberEntry::previewLiesInThePanel()
         QVERIFY(!preview.intersects(field));
         QVERIFY(preview.top() == field.bottom() + 1 || preview.bottom() == field.top() - 1);
     }
+}
+
+/// As in a view that scrolls, here at the end of what it shows.
+void tst_NumberEntry::previewLiesWhereThePanelIsSeen()
+{
+    QWidget window;
+    Subject subject;
+    subject.show();
+    subject.panel->setParent(&window);
+    subject.panel->show();
+    window.resize(subject.panel->width(), 80);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QWidget *const field = subject.field("depth");
+    const int end = field->mapTo(subject.panel.get(), field->rect().bottomLeft()).y();
+    subject.panel->move(0, window.height() - end - 2);
+
+    const QAbstractSpinBox *const box = subject.type("depth", text("=2*3"));
+
+    const QRect place(box->mapTo(&window, QPoint()), box->size());
+    const QLabel *const preview = subject.preview();
+    QVERIFY(preview);
+    const QRect shown(preview->mapTo(&window, QPoint()), preview->size());
+    QVERIFY(window.rect().contains(shown));
+    QCOMPARE(shown.bottom(), place.top() - 1);
 }
 
 void tst_NumberEntry::percentagesAreOfTheNumberBefore()

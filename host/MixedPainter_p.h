@@ -13,7 +13,8 @@ namespace Tessark::PropertyHost {
 
 /// While it lives, the controls of a mixed row are drawn without a value: a dash where a number would
 /// be, a choice that is none, a bar where a button would be chosen, a groove without handle, words in a
-/// list without selection, hatching over what else shows a value. What the controls hold, and how they take mouse and keys, stays as it is.
+/// list without selection, hatching over what else shows a value. What the controls hold, and how they take
+/// mouse and keys, stays as it is.
 ///
 /// A field that shows something has a number of everyone's, or one that the user types, and is drawn as
 /// ever, with its slider; unless nobody blanks the fields of the row, which the dynamic property "mixed"

@@ -18,7 +18,8 @@ namespace Tessark::PropertyHost {
  * Keeps the fields of a panel that have a fixed size from cutting off their numbers: they become wide
  * enough for the longest one of their range, and as high as the font asks for. Those that are the only ones
  * of their rows are equally wide on a page, so that what is beside them ends at one line. None becomes narrower
- * than the panel made it. Fields of whole numbers, which have no fixed size, join in that. Fields that are whole rows stay as they are: their size may be the host's.
+ * than the panel made it. Fields of whole numbers, which have no fixed size, join in that. Fields that are
+ * whole rows stay as they are: their size may be the host's.
  *
  * Nothing moves under the hands of a user who drags a control of the panel or is typing a number: what
  * changes meanwhile is seen to when that is done.

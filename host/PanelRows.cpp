@@ -4,6 +4,8 @@
 #include <property/PropertyEditorPanel.h>
 #include <property/PropertyLayout.h>
 
+#include <set>
+
 namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
@@ -30,6 +32,7 @@ bool isHiddenByHand(const QWidget &widget)
 PanelRows::PanelRows(PropertyEditorPanel &panel)
 {
     m_pages.append(&panel);
+    std::set<const QWidget *> seen{&panel};
     QVector<PropertyEditor *> editors;
     panel.getEditors(editors, QString());
     for (PropertyEditor *editor : std::as_const(editors)) {
@@ -44,7 +47,7 @@ PanelRows::PanelRows(PropertyEditorPanel &panel)
         m_indexesOf.insert(row.property, count());
         m_rows.push_back(row);
         QWidget *const page = field->parentWidget();
-        if (page && qobject_cast<PropertyLayout *>(page->layout()) && !m_pages.contains(page))
+        if (page && seen.insert(page).second && qobject_cast<PropertyLayout *>(page->layout()))
             m_pages.append(page);
     }
     for (const QPointer<QWidget> &page : std::as_const(m_pages))

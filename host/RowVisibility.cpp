@@ -4,6 +4,7 @@
 
 #include <QSignalBlocker>
 
+#include <set>
 #include <utility>
 
 namespace Tessark::PropertyHost {
@@ -40,13 +41,14 @@ void RowVisibility::apply()
 {
     const QVector<int> changed = std::exchange(m_changed, {});
     QVector<QPointer<QWidget>> pages;
+    std::set<const QWidget *> seen;
     LayoutPause pause;
     for (const int row : changed) {
         stateOf(row).isQueued = false;
         noteHost(row);
         QWidget *const field = m_rows->at(row).field;
         QWidget *const page = field && !m_rows->at(row).tabs ? field->parentWidget() : nullptr;
-        if (page && !pages.contains(page)) {
+        if (page && seen.insert(page).second) {
             pages.append(page);
             pause.add(page);
             Q_EMIT pageChanges(page);

@@ -12,6 +12,8 @@
 #include <QEvent>
 #include <QSignalBlocker>
 
+#include <set>
+
 namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
@@ -55,9 +57,11 @@ void RuleRows::apply()
     QVector<QPointer<QWidget>> pages;
     {
         LayoutPause pause;
+        std::set<const QWidget *> seen;
         for (const int row : std::as_const(changed)) {
             QWidget *const page = at(row).field ? at(row).field->parentWidget() : nullptr;
-            if (!page || !qobject_cast<PropertyLayout *>(page->layout()) || pages.contains(page))
+            if (!page || !seen.insert(page).second
+                || !qobject_cast<PropertyLayout *>(page->layout()))
                 continue;
             pages.append(page);
             pause.add(page);

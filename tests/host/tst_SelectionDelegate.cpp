@@ -115,6 +115,7 @@ private Q_SLOTS:
     void rangeIsWhatAllTake_data();
     void rangeIsWhatAllTake();
     void rangeThatOneObjectLacks();
+    void boundsThatFollowAreTakenAsTheyAre();
     void rangesThatDoNotMeetAreNotCommon();
     void rangeOfVectorsIsTakenByComponents();
     void hintsThatMustAgree_data();
@@ -506,6 +507,26 @@ void tst_SelectionDelegate::rangeThatOneObjectLacks()
     QCOMPARE(x()->hardMaxValue.toDouble(), 0.0);
     QVERIFY(isSameValue(*row("p"), row("p")->minValue, QPoint(1, 2)));
     QVERIFY(isSameValue(*row("p"), row("p")->maxValue, QPoint(8, 9)));
+}
+
+void tst_SelectionDelegate::boundsThatFollowAreTakenAsTheyAre()
+{
+    PropertyList list;
+    list.integer(QStringLiteral("low"), QString())
+        .range(0, 9)
+        .maximumFollows(QStringLiteral("high"));
+    list.integer(QStringLiteral("high"), QString()).range(0, 99).defaultValue(40);
+    PropertyStore store;
+    store.reset(list);
+    SelectionDelegate selection;
+    auto engine = std::make_unique<RuleEngine>(list, &store);
+
+    selection.setMembers({{list, &store}});
+    QCOMPARE(selection.properties().at(0)->maxValue, QVariant(40));
+    engine.reset();
+    QCOMPARE(selection.properties().at(0)->maxValue, QVariant(40));
+    selection.setMembers({{list, &store}});
+    QCOMPARE(selection.properties().at(0)->maxValue, QVariant(9));
 }
 
 void tst_SelectionDelegate::rangesThatDoNotMeetAreNotCommon()

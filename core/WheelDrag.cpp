@@ -6,7 +6,6 @@ namespace Tessark::UI {
 
 namespace {
 
-constexpr double kFullTurn = 360;
 constexpr double kDegree = 3.14159265358979323846 / 180;
 constexpr double kMarkerReach = 6;
 constexpr double kFineShare = 0.1; // of the pointer's movement, with Shift

@@ -10,7 +10,6 @@ namespace Tessark::UI {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-constexpr double kFullTurn = 360;
 constexpr double kDarkEnd = 240; // 7 o'clock
 
 constexpr double kSmallestSide = 4;        // below it there is nothing

@@ -50,6 +50,9 @@ double turnBetween(double from, double to);
 Hsv discColorAt(const WheelGeometry &wheel, const QPointF &point, const Hsv &previous);
 QPointF discPointOf(const WheelGeometry &wheel, const Hsv &hsv);
 
+/// Degrees.
+constexpr double kFullTurn = 360;
+
 /// The value ring is an arc of 300 degrees with its gap at the bottom. Its turn is counted clockwise
 /// from the dark end at 7 o'clock: 0..300 on the arc, up to 360 in the gap.
 constexpr double kValueRingTurn = 300;

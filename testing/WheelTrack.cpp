@@ -16,7 +16,7 @@ using UI::WheelPart;
 namespace {
 
 constexpr double kShown = 0.5e-4 * (1 + 1e-6); // half of the last digit of a channel's field
-constexpr double kRounding = 1.5;              // pixels
+constexpr double kMissed = 1.5;                // pixels, by rounding
 constexpr double kBeyond = 0.03;               // of the way, where the marker stays at its end
 constexpr int kLeastRingMovements = 3;         // or the short way round would be another one
 
@@ -77,7 +77,7 @@ bool WheelTrack::isPlacedAs(const Hsv &left, const Hsv &right) const
 {
     const QPointF one = UI::markerOf(m_geometry, m_part, left);
     const QPointF other = UI::markerOf(m_geometry, m_part, right);
-    return QLineF(one, other).length() <= kRounding;
+    return QLineF(one, other).length() <= kMissed;
 }
 
 /// Straight over the disc, along the arc of the ring.

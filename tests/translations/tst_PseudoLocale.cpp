@@ -1,3 +1,4 @@
+#include <host/PropertyList.h>
 #include <host/PropertyPanelView.h>
 #include <property/PropertyUI.h>
 #include <tools/property-panel/Input.h>
@@ -21,7 +22,10 @@
 #include <memory>
 
 using namespace Tessark::PropertyPanel;
+using Tessark::PropertyHost::Problem;
+using Tessark::PropertyHost::PropertyList;
 using Tessark::PropertyHost::PropertyPanelView;
+using namespace Tessark::PropertyUI;
 
 /// The program's window, with rows of all types, in a language that shows what is not translated and
 /// what has no room in another language.
@@ -36,6 +40,9 @@ private Q_SLOTS:
     void allTextsAreTranslated();
     void noTextIsCutOff();
     void findsWhatIsNot();
+    void mistakesInRowsAreTranslated();
+    void mistakesInRulesAreTranslated();
+    void mistakesInNestingAreTranslated();
 
 private:
     QStringList untranslated() const;
@@ -117,6 +124,20 @@ bool isWord(const QString &text)
 bool isTranslated(const QString &text)
 {
     return text.contains(kOurs) || text.contains(kOfQt);
+}
+
+/// What is wrong with the list, each translated part of a message in square brackets.
+QStringList mistakesIn(const PropertyList &list)
+{
+    QStringList messages;
+    const auto problems = list.validate();
+    for (const Problem &problem : problems) {
+        QString message = problem.message;
+        message.replace(kOurs, QLatin1Char('['));
+        message.replace(QChar(kOurs.unicode() + 1), QLatin1Char(']'));
+        messages.append(message.remove(QLatin1Char('~')));
+    }
+    return messages;
 }
 
 /// Whether it shows a text that has to be seen whole.
@@ -224,6 +245,84 @@ void tst_PseudoLocale::findsWhatIsNot()
     label->setText(pseudoText(QStringLiteral("Translated"), kOurs));
     QCOMPARE(untranslated(), QStringList());
     delete label;
+}
+
+void tst_PseudoLocale::mistakesInRowsAreTranslated()
+{
+    const auto name = [](const char *text) { return QString::fromLatin1(text); };
+    const QString none;
+    PropertyList list;
+    list.boolean(none, none);
+    list.boolean(name("a"), none);
+    list.boolean(name("a"), none);
+    list.add(name("flaot"), name("b"), none);
+    list.boolean(name("c"), none).hint(name("enabld"), true);
+    list.string(name("d"), none).suffix(name(" m"));
+    list.choice(name("e"), none).choices({name("x")}).hint(kPropertyHintValues, QVariantList{1, 2});
+    list.add(kPropertyTypeString, name("f"), none).property().setRange(0, QVariant());
+    list.number(name("g"), none);
+    list.integer(name("h"), none).range(5, 1);
+    list.number(name("i"), none).range(name("low"), 5.0);
+    list.integer(name("j"), none).range(0, 5).defaultValue(6);
+    list.action(name("k"), none).defaultValue(1);
+    list.integer(name("l"), none).range(0, 5).defaultValue(name("x"));
+
+    QCOMPARE(mistakesIn(list), (QStringList{
+                                   name("[\"name\" is missing]"),
+                                   name("[the name \"a\" is taken by a row before]"),
+                                   name("[no editor for type \"flaot\", the row is skipped"
+                                        "[ (did you mean \"float\"?)]]"),
+                                   name("[unknown hint[ (did you mean \"enabled\"?)]]"),
+                                   name("[no editor reads this hint for type \"string\"]"),
+                                   name("[2 values for 1 \"display_values\"]"),
+                                   name("[means nothing for type \"string\", ignored]"),
+                                   name("[\"max\" is missing and counts as 0]"),
+                                   name("[5 is above \"max\", which is 1]"),
+                                   name("[the bound is not [a number]]"),
+                                   name("[6 is outside of the range]"),
+                                   name("[a property of type \"action\" has no value]"),
+                                   name("[the default is not [a whole number]]"),
+                               }));
+}
+
+void tst_PseudoLocale::mistakesInRulesAreTranslated()
+{
+    const auto name = [](const char *text) { return QString::fromLatin1(text); };
+    const QString none;
+    PropertyList list;
+    list.integer(name("n"), none).range(0, 5).maximumFollows(name("n"));
+    list.vec2(name("v"), none).range(QVector2D(), QVector2D(1, 1));
+    list.choice(name("c"), none)
+        .choices({name("x")})
+        .hint(kPropertyHintValues, QStringList{name("x")});
+    list.boolean(name("p"), none).visibleWhen(name("q"));
+    list.boolean(name("q"), none).visibleWhen(name("p"));
+    const char *const rules[] = {"n",          "n = 1",   "n >", "nn",       "v",      "v.z > 1",
+                                 "v.xxxx > 1", "n.x > 1", "'a",  "c == 'y'", "c == 1", "(n > 1"};
+    for (const char *const rule : rules)
+        list.boolean(name("rule ") + name(rule), none).enabledWhen(name(rule));
+
+    QCOMPARE(mistakesIn(list), QStringList());
+}
+
+void tst_PseudoLocale::mistakesInNestingAreTranslated()
+{
+    const QString none;
+    PropertyList list;
+    for (const QString &type : {kPropertyTypeTab, kPropertyTypeEndGroup, kPropertyTypeBeginTabGroup,
+                                kPropertyTypeBeginGroup, kPropertyTypeTab, kPropertyTypeEndTabGroup,
+                                kPropertyTypeBeginGroup, kPropertyTypeBeginTabGroup})
+        list.add(type, none, none);
+
+    QCOMPARE(mistakesIn(list),
+             (QStringList{
+                 QStringLiteral("[a tab outside of a tab group]"),
+                 QStringLiteral("[nothing is open that \"end_group\" could close]"),
+                 QStringLiteral("[a tab inside of the group /properties/3]"),
+                 QStringLiteral("[\"end_tabgroup\" here leaves /properties/3 open]"),
+                 QStringLiteral("[this group is never closed, \"end_group\" is missing]"),
+                 QStringLiteral("[this tab group is never closed, \"end_tabgroup\" is missing]"),
+             }));
 }
 
 QTEST_MAIN(tst_PseudoLocale)

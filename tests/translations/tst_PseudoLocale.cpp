@@ -1,4 +1,5 @@
 #include <host/PropertyList.h>
+#include <host/PropertyListReader.h>
 #include <host/PropertyPanelView.h>
 #include <property/PropertyUI.h>
 #include <tools/property-panel/Input.h>
@@ -41,8 +42,11 @@ private Q_SLOTS:
     void noTextIsCutOff();
     void findsWhatIsNot();
     void mistakesInRowsAreTranslated();
+    void mistakesInRulesAreTranslated_data();
     void mistakesInRulesAreTranslated();
     void mistakesInNestingAreTranslated();
+    void mistakesInJsonAreTranslated_data();
+    void mistakesInJsonAreTranslated();
 
 private:
     QStringList untranslated() const;
@@ -126,11 +130,10 @@ bool isTranslated(const QString &text)
     return text.contains(kOurs) || text.contains(kOfQt);
 }
 
-/// What is wrong with the list, each translated part of a message in square brackets.
-QStringList mistakesIn(const PropertyList &list)
+/// The messages, each translated part in square brackets.
+QStringList marked(const QVector<Problem> &problems)
 {
     QStringList messages;
-    const auto problems = list.validate();
     for (const Problem &problem : problems) {
         QString message = problem.message;
         message.replace(kOurs, QLatin1Char('['));
@@ -138,6 +141,11 @@ QStringList mistakesIn(const PropertyList &list)
         messages.append(message.remove(QLatin1Char('~')));
     }
     return messages;
+}
+
+QStringList mistakesIn(const PropertyList &list)
+{
+    return marked(list.validate());
 }
 
 /// Whether it shows a text that has to be seen whole.
@@ -285,24 +293,49 @@ void tst_PseudoLocale::mistakesInRowsAreTranslated()
                                }));
 }
 
+void tst_PseudoLocale::mistakesInRulesAreTranslated_data()
+{
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *rule, const char *message) {
+        QTest::newRow(rule) << QString::fromLatin1(rule) << QString::fromLatin1(message);
+    };
+
+    row("n", "[character 1: [expected [a truth value], found [a number]]]");
+    row("n = 1", "[character 3: [\"=\" is not expected[ (did you mean \"==\"?)]]]");
+    row("n > 1 1", "[character 7: [\"1\" is not expected]]");
+    row("n >", "[character 4: [the rule ends too early]]");
+    row("n > 1.1.1", "[character 5: [\"1.1.1\" is not a number]]");
+    row("nn", "[character 1: [there is no property \"nn\"[ (did you mean \"n\"?)]]]");
+    row("v", "[character 1: [\"v\" has several parts, name one as in \"v.x\"]]");
+    row("s.widht > 1",
+        "[character 1: [\"s\" has no component \"widht\"[ (did you mean \"width\"?)]]]");
+    row("v.other > 1", "[character 1: [\"v\" has no component \"other\", but x, y]]");
+    row("n.x > 1", "[character 1: [\"n\" has no components]]");
+    row("i == 1", "[character 1: [rules cannot read \"i\", which is of type \"image\"]]");
+    row("'a", "[character 1: [the ' that opens here never closes]]");
+    row("c == 'y'", "[character 6: [\"y\" is not one of the values of \"c\"]]");
+    row("c == 1", "[character 6: [expected [a text], found [a number]]]");
+    row("(n > 1", "[character 7: [\")\" is missing]]");
+    row("a", "[these rules go in a circle: \"a\", \"a\"]");
+}
+
 void tst_PseudoLocale::mistakesInRulesAreTranslated()
 {
-    const auto name = [](const char *text) { return QString::fromLatin1(text); };
+    QFETCH(QString, rule);
+    QFETCH(QString, message);
     const QString none;
+    const QStringList choices{QStringLiteral("x")};
     PropertyList list;
-    list.integer(name("n"), none).range(0, 5).maximumFollows(name("n"));
-    list.vec2(name("v"), none).range(QVector2D(), QVector2D(1, 1));
-    list.choice(name("c"), none)
-        .choices({name("x")})
-        .hint(kPropertyHintValues, QStringList{name("x")});
-    list.boolean(name("p"), none).visibleWhen(name("q"));
-    list.boolean(name("q"), none).visibleWhen(name("p"));
-    const char *const rules[] = {"n",          "n = 1",   "n >", "nn",       "v",      "v.z > 1",
-                                 "v.xxxx > 1", "n.x > 1", "'a",  "c == 'y'", "c == 1", "(n > 1"};
-    for (const char *const rule : rules)
-        list.boolean(name("rule ") + name(rule), none).enabledWhen(name(rule));
+    list.integer(QStringLiteral("n"), none).range(0, 5);
+    list.vec2(QStringLiteral("v"), none).range(QVector2D(), QVector2D(1, 1));
+    list.size(QStringLiteral("s"), none);
+    list.image(QStringLiteral("i"), none);
+    list.choice(QStringLiteral("c"), none).choices(choices).hint(kPropertyHintValues, choices);
 
-    QCOMPARE(mistakesIn(list), QStringList());
+    list.boolean(QStringLiteral("a"), none).visibleWhen(rule);
+
+    QCOMPARE(mistakesIn(list), QStringList(message));
 }
 
 void tst_PseudoLocale::mistakesInNestingAreTranslated()
@@ -319,10 +352,56 @@ void tst_PseudoLocale::mistakesInNestingAreTranslated()
                  QStringLiteral("[a tab outside of a tab group]"),
                  QStringLiteral("[nothing is open that \"end_group\" could close]"),
                  QStringLiteral("[a tab inside of the group /properties/3]"),
-                 QStringLiteral("[\"end_tabgroup\" here leaves /properties/3 open]"),
+                 QStringLiteral("[\"end_tab_group\" here leaves /properties/3 open]"),
                  QStringLiteral("[this group is never closed, \"end_group\" is missing]"),
-                 QStringLiteral("[this tab group is never closed, \"end_tabgroup\" is missing]"),
+                 QStringLiteral("[this tab group is never closed, \"end_tab_group\" is missing]"),
              }));
+}
+
+void tst_PseudoLocale::mistakesInJsonAreTranslated_data()
+{
+    QTest::addColumn<QByteArray>("row");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const char *rest, const char *message) {
+        QTest::newRow(name) << QByteArray(rest) << QString::fromLatin1(message);
+    };
+
+    row("truth value", R"("bool", "default": 1)", "[expected [a boolean], found [a number]]");
+    row("whole number", R"("int", "max": 5, "default": true)",
+        "[expected [a whole number], found [a boolean]]");
+    row("number", R"("float", "max": 5, "default": null)", "[expected [a number], found null]");
+    row("text", R"("string", "default": [])", "[expected [a string], found [an array]]");
+    row("colour", R"("vec4/color", "default": {})",
+        "[expected [a colour as text or array of fractions], found [an object]]");
+    row("fractions", R"("vec4/color", "default": [1])",
+        "[expected [3 or 4 fractions], found an array of 1]");
+    row("vector", R"("vec2", "max": [1, 1], "default": true)",
+        "[expected [2 numbers], found [a boolean]]");
+    row("size", R"("ivec2/size", "default": "x")",
+        "[expected [[width, height]], found [a string]]");
+    row("matrix", R"("transform2D", "default": {})", "[expected [9 numbers], found [an object]]");
+    row("texture", R"("texture", "default": 1)",
+        "[expected [the name of a texture, a path or null], found [a number]]");
+    row("picture", R"("image", "default": "/nowhere/p.png")",
+        "[there is no file \"/nowhere/p.png\"]");
+    row("format", R"("image_format", "default": {"format": "pngg"})",
+        "[\"pngg\" is not one of png, jpeg, tiff, bmp[ (did you mean \"png\"?)]]");
+    row("font", R"("bool", "hints": {"font": 1})",
+        "[expected [a font as text or object], found [a number]]");
+    row("alignment", R"("bool", "hints": {"alignment": 4})",
+        "[expected [names of alignments], found [a number]]");
+    row("unknown key", R"("bool", "lable": "L")", "[unknown key[ (did you mean \"label\"?)]]");
+}
+
+void tst_PseudoLocale::mistakesInJsonAreTranslated()
+{
+    QFETCH(QByteArray, row);
+    QFETCH(QString, message);
+
+    const auto result = Tessark::PropertyHost::readPropertyList(
+        R"({"version": 1, "properties": [{"name": "a", "type": )" + row + "}]}");
+
+    QCOMPARE(marked(result.problems), QStringList(message));
 }
 
 QTEST_MAIN(tst_PseudoLocale)

@@ -3,6 +3,7 @@
 #include "host/HintJson_p.h"
 #include "host/HintUse_p.h"
 #include "host/ListKeys_p.h"
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
 #include "host/ValueCheck_p.h"
@@ -108,7 +109,7 @@ void Application::applyType(const QString &type)
 {
     if (!showsSameValues(type, m_row.type)) {
         tell(kKeyType, childPointer(QString(), kKeyType),
-             QStringLiteral("a row of type %1 does not show values of %2")
+             Messages::tr("a row of type %1 does not show values of %2")
                  .arg(quoted(type), QString::fromLatin1(m_meta.typeName())));
         return;
     }
@@ -122,13 +123,12 @@ void Application::applyRange(const QString &range)
     const QStringList bounds = range.split(QLatin1String(".."));
     if (typeTraits(m_row.type).range == RangeUse::None) {
         tell(kRange, childPointer(QString(), kKeyMin),
-             QStringLiteral("means nothing for type %1").arg(quoted(m_row.type)));
+             Messages::tr("means nothing for type %1").arg(quoted(m_row.type)));
         return;
     }
     if (bounds.size() < 2 || bounds.size() > 3) {
-        tell(
-            kRange, childPointer(QString(), kKeyMin),
-            QStringLiteral("%1 is not of the form \"0..10\" or \"0..10..100\"").arg(quoted(range)));
+        tell(kRange, childPointer(QString(), kKeyMin),
+             Messages::tr("%1 is not of the form \"0..10\" or \"0..10..100\"").arg(quoted(range)));
         return;
     }
     const auto minimum = readBound(bounds.at(0), kKeyMin);
@@ -138,7 +138,7 @@ void Application::applyRange(const QString &range)
         return;
     if (isAbove(*minimum, *maximum) || isAbove(*maximum, *hardMaximum)) {
         tell(kRange, childPointer(QString(), kKeyMin),
-             QStringLiteral("the bounds of %1 do not ascend").arg(quoted(range)));
+             Messages::tr("the bounds of %1 do not ascend").arg(quoted(range)));
         return;
     }
     m_row.setRange(*minimum, *maximum, *hardMaximum);
@@ -170,7 +170,7 @@ void Application::applyHint(const QString &key, const QString &text)
 
 void Application::tellUnknown(const QString &word)
 {
-    tell(word, QString(), QStringLiteral("unknown hint%1").arg(suggestion(word, knownWords())));
+    tell(word, QString(), Messages::tr("unknown hint%1").arg(suggestion(word, knownWords())));
     m_mistakes.last().isError = false;
 }
 
@@ -200,7 +200,7 @@ std::optional<QVariant> Application::readBound(const QString &text, const QStrin
     auto bound = convertValue(m_row, numbersOf(text), QString(), error);
     if (!bound)
         tell(kRange, childPointer(QString(), key),
-             QStringLiteral("%1: %2").arg(quoted(text), error.message));
+             Messages::tr("%1: %2").arg(quoted(text), error.message));
     return bound;
 }
 
@@ -212,7 +212,7 @@ void Application::applyKey(const QString &key)
         m_row.setDefaultValue(value);
     else
         tell(kKeyDefault, childPointer(QString(), kKeyDefault),
-             QStringLiteral("%1 has no key %2")
+             Messages::tr("%1 has no key %2")
                  .arg(QString::fromLatin1(m_meta.enumerator().enumName()), quoted(key)));
 }
 
@@ -280,7 +280,7 @@ void ClassInfo::add(const QMetaObject &meta, const QString &name, const QString 
         m_texts[property].insert(word, text);
     else if (knownWords().contains(word))
         m_strangers.append({name,
-                            QStringLiteral("there is no property %1%2")
+                            Messages::tr("there is no property %1%2")
                                 .arg(quoted(property), suggestion(property, propertyNames(meta))),
                             QString()});
 }

@@ -1,6 +1,7 @@
 #include "host/HintJson_p.h"
 
 #include "host/HostHints.h"
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
 #include "host/ValueJson_p.h"
@@ -72,7 +73,7 @@ std::optional<int> numberOfName(const NamedNumber (&table)[N], const QString &na
         names.append(entry.name);
     }
     error.message =
-        QStringLiteral("%1 is not one of %2").arg(quoted(name), names.join(QLatin1String(", ")));
+        Messages::tr("%1 is not one of %2").arg(quoted(name), names.join(QLatin1String(", ")));
     return std::nullopt;
 }
 
@@ -153,11 +154,11 @@ std::optional<QVariant> alignmentFromNames(const QStringList &names, ConversionE
 }
 
 /// The texts of an array of texts.
-std::optional<QStringList> textsFromJson(const QJsonValue &json, const QString &what,
+std::optional<QStringList> textsFromJson(const QJsonValue &json, const char *what,
                                          ConversionError &error)
 {
     if (!json.isArray()) {
-        error.message = expectedMessage(what, json);
+        error.message = expectedMessage(Messages::tr(what), json);
         return std::nullopt;
     }
     QStringList texts;
@@ -177,11 +178,12 @@ std::optional<QVariant> readAlignment(const QJsonValue &json, ConversionError &e
 {
     if (json.isString())
         return alignmentFromNames(splitNames(json.toString()), error);
-    const auto names = textsFromJson(json, QStringLiteral("names of alignments"), error);
+    const auto names = textsFromJson(
+        json, QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "names of alignments"), error);
     if (!names)
         return std::nullopt;
     if (names->isEmpty()) {
-        error.message = QStringLiteral("expected names of alignments, found an empty array");
+        error.message = Messages::tr("expected names of alignments, found an empty array");
         return std::nullopt;
     }
     return alignmentFromNames(*names, error);
@@ -190,7 +192,7 @@ std::optional<QVariant> readAlignment(const QJsonValue &json, ConversionError &e
 std::optional<QVariant> readValues(const QJsonValue &json, ConversionError &error)
 {
     if (!json.isArray()) {
-        error.message = expectedMessage(QStringLiteral("an array"), json);
+        error.message = expectedMessage(Messages::tr("an array"), json);
         return std::nullopt;
     }
     QVariantList values;
@@ -208,7 +210,8 @@ std::optional<QVariant> readValues(const QJsonValue &json, ConversionError &erro
 
 std::optional<QVariant> readTexts(const QJsonValue &json, ConversionError &error)
 {
-    return toVariant(textsFromJson(json, QStringLiteral("an array"), error));
+    return toVariant(textsFromJson(
+        json, QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "an array"), error));
 }
 
 std::optional<QVariant> fontFromText(const QString &text, ConversionError &error)
@@ -218,7 +221,7 @@ std::optional<QVariant> fontFromText(const QString &text, ConversionError &error
     const QRegularExpressionMatch match = s_font.match(text);
     if (!match.hasMatch()) {
         error.message =
-            QStringLiteral("%1 is not of the form \"Family\" or \"Family, 12\"").arg(quoted(text));
+            Messages::tr("%1 is not of the form \"Family\" or \"Family, 12\"").arg(quoted(text));
         return std::nullopt;
     }
     QFont font;
@@ -242,7 +245,7 @@ bool setFontSize(QFont &font, const QJsonValue &json, ConversionError &error)
     if (!size)
         return false;
     if (*size < 1.0 || *size >= 1000.0) {
-        error.message = QStringLiteral("a font size must be at least 1 and below 1000");
+        error.message = Messages::tr("a font size must be at least 1 and below 1000");
         return false;
     }
     font.setPointSizeF(*size);
@@ -278,7 +281,8 @@ std::optional<QVariant> fontFromObject(const QJsonObject &object, ConversionErro
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         const Setter setter = s_setters.value(it.key());
         if (!setter)
-            error.message = QStringLiteral("unknown key") + suggestion(it.key(), s_setters.keys());
+            error.message =
+                Messages::tr("unknown key%1").arg(suggestion(it.key(), s_setters.keys()));
         if (!setter || !setter(font, it.value(), error)) {
             error.path = childPointer(QString(), it.key());
             return std::nullopt;
@@ -293,7 +297,7 @@ std::optional<QVariant> readFont(const QJsonValue &json, ConversionError &error)
         return fontFromText(json.toString(), error);
     if (json.isObject())
         return fontFromObject(json.toObject(), error);
-    error.message = expectedMessage(QStringLiteral("a font as text or object"), json);
+    error.message = expectedMessage(Messages::tr("a font as text or object"), json);
     return std::nullopt;
 }
 
@@ -301,11 +305,13 @@ std::optional<QVariant> readConditions(const QJsonValue &json, ConversionError &
 {
     if (json.isString())
         return QVariant(json.toString());
-    const auto texts =
-        textsFromJson(json, QStringLiteral("a condition or an array of them"), error);
+    const auto texts = textsFromJson(
+        json,
+        QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "a condition or an array of them"),
+        error);
     if (!texts || !texts->isEmpty())
         return toVariant(texts);
-    error.message = QStringLiteral("expected conditions, found an empty array");
+    error.message = Messages::tr("expected conditions, found an empty array");
     return std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #include "host/ImageFormatJson_p.h"
 
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
 
@@ -27,7 +28,7 @@ std::optional<QString> formatFromJson(const QJsonValue &json, ConversionError &e
     auto format = textFromJson(json, error);
     if (!format || formats().contains(*format))
         return format;
-    error.message = QStringLiteral("%1 is not one of %2%3")
+    error.message = Messages::tr("%1 is not one of %2%3")
                         .arg(quoted(*format), formats().join(QLatin1String(", ")),
                              suggestion(*format, formats()));
     return std::nullopt;
@@ -38,8 +39,7 @@ std::optional<int> rateFromJson(const QJsonValue &json, ConversionError &error)
     const auto rate = integerFromJson(json, error);
     if (!rate || (*rate >= 0 && *rate <= kMaximumRate))
         return rate;
-    error.message =
-        QStringLiteral("a compression rate must lie between 0 and %1").arg(kMaximumRate);
+    error.message = Messages::tr("a compression rate must lie between 0 and %1").arg(kMaximumRate);
     return std::nullopt;
 }
 
@@ -53,7 +53,7 @@ ImageFormatDesc defaultImageFormat()
 std::optional<QVariant> imageFormatFromJson(const QJsonValue &json, ConversionError &error)
 {
     if (!json.isObject()) {
-        error.message = expectedMessage(QStringLiteral("an object with \"format\""), json);
+        error.message = expectedMessage(Messages::tr("an object with \"format\""), json);
         return std::nullopt;
     }
     const QJsonObject object = json.toObject();

@@ -1,5 +1,6 @@
 #include "host/JsonConversion_p.h"
 
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
 
@@ -36,17 +37,18 @@ bool isNumberText(const QString &text)
     return ok && s_number.match(text).hasMatch();
 }
 
-std::optional<QJsonArray> arrayFromJson(const QJsonValue &json, int count, const QString &what,
+std::optional<QJsonArray> arrayFromJson(const QJsonValue &json, int count, const char *what,
                                         ConversionError &error)
 {
     if (!json.isArray()) {
-        error.message = expectedMessage(what, json);
+        error.message = expectedMessage(Messages::tr(what), json);
         return std::nullopt;
     }
     const QJsonArray array = json.toArray();
     if (array.size() != count) {
-        error.message =
-            QStringLiteral("expected %1, found an array of %2").arg(what).arg(array.size());
+        error.message = Messages::tr("expected %1, found an array of %n", nullptr,
+                                     static_cast<int>(array.size()))
+                            .arg(Messages::tr(what));
         return std::nullopt;
     }
     return array;
@@ -56,7 +58,7 @@ bool checkFraction(double fraction, const QString &path, ConversionError &error)
 {
     if (fraction >= 0.0 && fraction <= 1.0)
         return true;
-    error.message = QStringLiteral("a colour component must lie between 0 and 1");
+    error.message = Messages::tr("a colour component must lie between 0 and 1");
     error.path = path;
     return false;
 }
@@ -70,8 +72,10 @@ quint16 channel(double fraction)
 std::optional<QColor> colorFromArray(const QJsonValue &json, Alpha alpha, ConversionError &error)
 {
     const bool withAlpha = alpha == Alpha::With && json.toArray().size() == 4;
-    const QString what =
-        alpha == Alpha::With ? QStringLiteral("3 or 4 fractions") : QStringLiteral("3 fractions");
+    const char *const what =
+        alpha == Alpha::With
+            ? QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "3 or 4 fractions")
+            : QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "3 fractions");
     const auto numbers = numbersFromJson(json, withAlpha ? 4 : 3, what, error);
     if (!numbers)
         return std::nullopt;
@@ -108,12 +112,12 @@ std::optional<QColor> colorFromText(const QString &text, Alpha alpha, Conversion
             || !checkFractionsText(parts, error))
             return std::nullopt;
     } else if (!QColor::isValidColor(text)) {
-        error.message = QStringLiteral("%1 is not a colour").arg(quoted(text));
+        error.message = Messages::tr("%1 is not a colour").arg(quoted(text));
         return std::nullopt;
     }
     const QColor color = PropertyUI::QColor_fromString(text);
     if (alpha == Alpha::Without && color.alpha() != 255) {
-        error.message = QStringLiteral("%1 is not an opaque colour").arg(quoted(text));
+        error.message = Messages::tr("%1 is not an opaque colour").arg(quoted(text));
         return std::nullopt;
     }
     return color;
@@ -127,31 +131,31 @@ QString jsonKindName(const QJsonValue &json)
     case QJsonValue::Null:
         return QStringLiteral("null");
     case QJsonValue::Bool:
-        return QStringLiteral("a boolean");
+        return Messages::tr("a boolean");
     case QJsonValue::Double:
-        return QStringLiteral("a number");
+        return Messages::tr("a number");
     case QJsonValue::String:
-        return QStringLiteral("a string");
+        return Messages::tr("a string");
     case QJsonValue::Array:
-        return QStringLiteral("an array");
+        return Messages::tr("an array");
     case QJsonValue::Object:
-        return QStringLiteral("an object");
+        return Messages::tr("an object");
     case QJsonValue::Undefined:
         break;
     }
-    return QStringLiteral("nothing");
+    return Messages::tr("nothing");
 }
 
 QString expectedMessage(const QString &what, const QJsonValue &json)
 {
-    return QStringLiteral("expected %1, found %2").arg(what, jsonKindName(json));
+    return Messages::tr("expected %1, found %2").arg(what, jsonKindName(json));
 }
 
 std::optional<bool> booleanFromJson(const QJsonValue &json, ConversionError &error)
 {
     if (json.isBool())
         return json.toBool();
-    error.message = expectedMessage(QStringLiteral("a boolean"), json);
+    error.message = expectedMessage(Messages::tr("a boolean"), json);
     return std::nullopt;
 }
 
@@ -159,7 +163,7 @@ std::optional<QString> textFromJson(const QJsonValue &json, ConversionError &err
 {
     if (json.isString())
         return json.toString();
-    error.message = expectedMessage(QStringLiteral("a string"), json);
+    error.message = expectedMessage(Messages::tr("a string"), json);
     return std::nullopt;
 }
 
@@ -167,23 +171,23 @@ std::optional<double> numberFromJson(const QJsonValue &json, ConversionError &er
 {
     if (json.isDouble())
         return json.toDouble();
-    error.message = expectedMessage(QStringLiteral("a number"), json);
+    error.message = expectedMessage(Messages::tr("a number"), json);
     return std::nullopt;
 }
 
 std::optional<int> integerFromJson(const QJsonValue &json, ConversionError &error)
 {
     if (!json.isDouble()) {
-        error.message = expectedMessage(QStringLiteral("a whole number"), json);
+        error.message = expectedMessage(Messages::tr("a whole number"), json);
         return std::nullopt;
     }
     const double number = json.toDouble();
     if (!isWhole(number)) {
-        error.message = QStringLiteral("expected a whole number, found %1").arg(number);
+        error.message = Messages::tr("expected a whole number, found %1").arg(number);
         return std::nullopt;
     }
     if (!fitsInt(number)) {
-        error.message = QStringLiteral("a whole number must lie between %1 and %2")
+        error.message = Messages::tr("a whole number must lie between %1 and %2")
                             .arg(std::numeric_limits<int>::min())
                             .arg(std::numeric_limits<int>::max());
         return std::nullopt;
@@ -191,8 +195,8 @@ std::optional<int> integerFromJson(const QJsonValue &json, ConversionError &erro
     return static_cast<int>(number);
 }
 
-std::optional<QVector<double>> numbersFromJson(const QJsonValue &json, int count,
-                                               const QString &what, ConversionError &error)
+std::optional<QVector<double>> numbersFromJson(const QJsonValue &json, int count, const char *what,
+                                               ConversionError &error)
 {
     const auto array = arrayFromJson(json, count, what, error);
     if (!array)
@@ -209,7 +213,7 @@ std::optional<QVector<double>> numbersFromJson(const QJsonValue &json, int count
     return numbers;
 }
 
-std::optional<QVector<int>> integersFromJson(const QJsonValue &json, int count, const QString &what,
+std::optional<QVector<int>> integersFromJson(const QJsonValue &json, int count, const char *what,
                                              ConversionError &error)
 {
     const auto array = arrayFromJson(json, count, what, error);
@@ -231,15 +235,15 @@ bool checkNumbersText(const QString &text, int count, OneForAll oneForAll, Conve
 {
     const QStringList parts = text.split(QLatin1Char(' '));
     if (parts.size() != count && !(oneForAll == OneForAll::Yes && parts.size() == 1)) {
-        error.message = QStringLiteral("expected %1 numbers with single spaces between, found %2")
-                            .arg(count)
-                            .arg(quoted(text));
+        error.message =
+            Messages::tr("expected %n numbers with single spaces between, found %1", nullptr, count)
+                .arg(quoted(text));
         return false;
     }
     for (const QString &part : parts) {
         if (!isNumberText(part)) {
             error.message =
-                QStringLiteral("%1 in %2 is not a number").arg(quoted(part), quoted(text));
+                Messages::tr("%1 in %2 is not a number").arg(quoted(part), quoted(text));
             return false;
         }
     }
@@ -251,19 +255,19 @@ bool checkKeys(const QJsonObject &object, const QStringList &known, const QStrin
 {
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         if (!known.contains(it.key())) {
-            error.message = QStringLiteral("unknown key") + suggestion(it.key(), known);
+            error.message = Messages::tr("unknown key%1").arg(suggestion(it.key(), known));
             error.path = childPointer(QString(), it.key());
             return false;
         }
     }
     if (!object.contains(required))
-        error.message = QStringLiteral("\"%1\" is missing").arg(required);
+        error.message = Messages::tr("\"%1\" is missing").arg(required);
     return object.contains(required);
 }
 
 std::optional<QSize> sizeFromJson(const QJsonValue &json, ConversionError &error)
 {
-    const auto numbers = integersFromJson(json, 2, QStringLiteral("[width, height]"), error);
+    const auto numbers = integersFromJson(json, 2, kSizeForm, error);
     return numbers ? std::optional(QSize(numbers->at(0), numbers->at(1))) : std::nullopt;
 }
 
@@ -273,7 +277,7 @@ std::optional<QColor> colorFromJson(const QJsonValue &json, Alpha alpha, Convers
         return colorFromArray(json, alpha, error);
     if (json.isString())
         return colorFromText(json.toString(), alpha, error);
-    error.message = expectedMessage(QStringLiteral("a colour as text or array of fractions"), json);
+    error.message = expectedMessage(Messages::tr("a colour as text or array of fractions"), json);
     return std::nullopt;
 }
 
@@ -290,7 +294,7 @@ std::optional<QVariant> scalarFromJson(const QJsonValue &json, ConversionError &
         return isInt ? QVariant(static_cast<int>(number)) : json.toVariant();
     }
     default:
-        error.message = expectedMessage(QStringLiteral("a string, a number or a boolean"), json);
+        error.message = expectedMessage(Messages::tr("a string, a number or a boolean"), json);
         return std::nullopt;
     }
 }

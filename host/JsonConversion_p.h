@@ -23,10 +23,10 @@ struct ConversionError
     QString path; // JSON pointer from the value to that part; empty for the value itself
 };
 
-/// The kind of a JSON value with its article, as in "a string".
+/// The kind of a JSON value with its article, as in "a string", in the user's language.
 QString jsonKindName(const QJsonValue &json);
 
-/// "expected <what>, found <kind of json>".
+/// "expected <what>, found <kind of json>", in the user's language; so has to be what.
 QString expectedMessage(const QString &what, const QJsonValue &json);
 
 std::optional<bool> booleanFromJson(const QJsonValue &json, ConversionError &error);
@@ -36,12 +36,12 @@ std::optional<double> numberFromJson(const QJsonValue &json, ConversionError &er
 /// A number without fraction that an int can hold.
 std::optional<int> integerFromJson(const QJsonValue &json, ConversionError &error);
 
-/// An array of exactly count numbers. what names the whole in errors.
-std::optional<QVector<double>> numbersFromJson(const QJsonValue &json, int count,
-                                               const QString &what, ConversionError &error);
+/// An array of exactly count numbers. what names the whole in errors; it is a text of Messages.
+std::optional<QVector<double>> numbersFromJson(const QJsonValue &json, int count, const char *what,
+                                               ConversionError &error);
 
 /// The same with numbers that an int can hold.
-std::optional<QVector<int>> integersFromJson(const QJsonValue &json, int count, const QString &what,
+std::optional<QVector<int>> integersFromJson(const QJsonValue &json, int count, const char *what,
                                              ConversionError &error);
 
 /// The numbers of a text that separates them by single spaces; count of them, or one if oneForAll.
@@ -51,6 +51,10 @@ bool checkNumbersText(const QString &text, int count, OneForAll oneForAll, Conve
 /// True when the object has no keys but the known ones, and the required one among them.
 bool checkKeys(const QJsonObject &object, const QStringList &known, const QString &required,
                ConversionError &error);
+
+/// What errors call the form of a size.
+constexpr const char *kSizeForm =
+    QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "[width, height]");
 
 /// [width, height] in whole numbers.
 std::optional<QSize> sizeFromJson(const QJsonValue &json, ConversionError &error);

@@ -1,5 +1,7 @@
 #include "host/JsonInput_p.h"
 
+#include "host/Messages_p.h"
+
 #include <QJsonParseError>
 
 #include <algorithm>
@@ -108,8 +110,7 @@ int offendingCharacter(const QByteArray &text, const QJsonParseError &error)
 Problem syntaxProblem(const QByteArray &text, const QJsonParseError &error)
 {
     return problemAt(text, offendingCharacter(text, error),
-                     isNoNumber(text, error) ? QStringLiteral("illegal value")
-                                             : error.errorString());
+                     isNoNumber(text, error) ? Messages::tr("illegal value") : error.errorString());
 }
 
 } // namespace
@@ -119,15 +120,15 @@ std::optional<QJsonDocument> parseJson(const QByteArray &json, QVector<Problem> 
     const bool hasMark = json.startsWith("\xEF\xBB\xBF");
     const QByteArray text = hasMark ? json.mid(3) : json;
     if (text.trimmed().isEmpty()) {
-        problems.append(problemAt(text, 0, QStringLiteral("the document is empty")));
+        problems.append(problemAt(text, 0, Messages::tr("the document is empty")));
         return std::nullopt;
     }
     const int invalid = firstInvalidByte(text);
     if (invalid >= 0) {
         const auto byte = static_cast<unsigned char>(text.at(invalid));
-        problems.append(problemAt(
-            text, invalid,
-            QStringLiteral("invalid UTF-8: byte 0x%1").arg(byte, 2, 16, QLatin1Char('0'))));
+        problems.append(
+            problemAt(text, invalid,
+                      Messages::tr("invalid UTF-8: byte 0x%1").arg(byte, 2, 16, QLatin1Char('0'))));
         return std::nullopt;
     }
     QJsonParseError error;

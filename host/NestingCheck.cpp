@@ -1,5 +1,6 @@
 #include "host/NestingCheck_p.h"
 
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
 
@@ -44,11 +45,11 @@ void NestingCheck::finish()
 {
     for (const Opening &opening : m_open) {
         const bool isGroup = opening.kind == Kind::Group;
-        m_problems.error(
-            typePointer(opening.pointer),
-            QStringLiteral("this %1 is never closed, %2 is missing")
-                .arg(isGroup ? QStringLiteral("group") : QStringLiteral("tab group"),
-                     quoted(isGroup ? kPropertyTypeEndGroup : kPropertyTypeEndTabGroup)));
+        m_problems.error(typePointer(opening.pointer),
+                         isGroup ? Messages::tr("this group is never closed, %1 is missing")
+                                       .arg(quoted(kPropertyTypeEndGroup))
+                                 : Messages::tr("this tab group is never closed, %1 is missing")
+                                       .arg(quoted(kPropertyTypeEndTabGroup)));
     }
     m_open.clear();
 }
@@ -59,8 +60,8 @@ void NestingCheck::open(Kind kind, const QString &pointer)
     ++count(kind);
     if (m_open.size() == kMaximumDepth + 1) {
         m_problems.error(typePointer(pointer),
-                         QStringLiteral("groups and tab groups may be nested %1 deep at most")
-                             .arg(kMaximumDepth));
+                         Messages::tr("groups and tab groups may be nested %n deep at most",
+                                      nullptr, static_cast<int>(kMaximumDepth)));
     }
 }
 
@@ -70,13 +71,13 @@ void NestingCheck::close(Kind kind, const QString &type, const QString &pointer)
 {
     if (count(kind) == 0) {
         m_problems.error(typePointer(pointer),
-                         QStringLiteral("nothing is open that %1 could close").arg(quoted(type)));
+                         Messages::tr("nothing is open that %1 could close").arg(quoted(type)));
         return;
     }
     if (m_open.back().kind != kind) {
         m_problems.error(
             typePointer(pointer),
-            QStringLiteral("%1 here leaves %2 open").arg(quoted(type), m_open.back().pointer));
+            Messages::tr("%1 here leaves %2 open").arg(quoted(type), m_open.back().pointer));
     }
     while (m_open.back().kind != kind) {
         --count(m_open.back().kind);
@@ -89,10 +90,10 @@ void NestingCheck::close(Kind kind, const QString &type, const QString &pointer)
 void NestingCheck::checkTab(const QString &pointer)
 {
     if (count(Kind::TabGroup) == 0) {
-        m_problems.error(typePointer(pointer), QStringLiteral("a tab outside of a tab group"));
+        m_problems.error(typePointer(pointer), Messages::tr("a tab outside of a tab group"));
     } else if (m_open.back().kind == Kind::Group) {
         m_problems.error(typePointer(pointer),
-                         QStringLiteral("a tab inside of the group %1").arg(m_open.back().pointer));
+                         Messages::tr("a tab inside of the group %1").arg(m_open.back().pointer));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "host/ObjectDelegate_p.h"
 
 #include "host/HintUse_p.h"
+#include "host/Messages_p.h"
 #include "host/MetaFields_p.h"
 #include "host/ObjectBinding.h"
 #include "host/ProblemCollector_p.h"
@@ -254,7 +255,7 @@ std::vector<ObjectDelegate::Plan> ObjectDelegate::planRows(const QMetaObject &me
             plans.push_back({property, field, info.group(name)});
             continue;
         }
-        const QString message = QStringLiteral("no row shows the property %1, of type %2")
+        const QString message = Messages::tr("no row shows the property %1, of type %2")
                                     .arg(quoted(name), QString::fromLatin1(property.typeName()));
         tell(nullptr, info, {{QString(), message, QString(), false}});
     }
@@ -302,11 +303,10 @@ void ObjectDelegate::tell(const Property *row, const ClassInfo &info,
                           const QVector<ClassInfoMistake> &mistakes)
 {
     for (ClassInfoMistake mistake : mistakes) {
-        const QString place = mistake.name.isEmpty()
-                                  ? info.className()
-                                  : QStringLiteral("class information %1 of %2")
-                                        .arg(quoted(mistake.name), info.className());
-        mistake.message = place + QLatin1String(": ") + mistake.message;
+        mistake.message = mistake.name.isEmpty()
+                              ? Messages::tr("%1: %2").arg(info.className(), mistake.message)
+                              : Messages::tr("class information %1 of %2: %3")
+                                    .arg(quoted(mistake.name), info.className(), mistake.message);
         m_findings.append({row, mistake});
     }
 }

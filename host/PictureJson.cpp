@@ -1,5 +1,7 @@
 #include "host/PictureJson_p.h"
 
+#include "host/Messages_p.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,15 +17,16 @@ namespace {
 const QLatin1String kPathKey("tessark-path");
 
 constexpr int kMaximumNamedPath = 300;
+constexpr int kMaximumMegapixels = static_cast<int>(kMaximumPicturePixels / 1'000'000);
 
 /// What speaks against opening the file; empty when nothing does.
 QString obstacle(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return QStringLiteral("there is no file %1").arg(namedPath(path));
+        return Messages::tr("there is no file %1").arg(namedPath(path));
     if (!info.isFile())
-        return QStringLiteral("%1 is not a file").arg(namedPath(path));
+        return Messages::tr("%1 is not a file").arg(namedPath(path));
     return QString();
 }
 
@@ -31,19 +34,17 @@ QString obstacle(const QString &path)
 QString obstacle(const QImageReader &reader, const QString &path)
 {
     if (!reader.canRead()) {
-        return QStringLiteral("%1 cannot be read as a picture: %2")
+        return Messages::tr("%1 cannot be read as a picture: %2")
             .arg(namedPath(path), reader.errorString());
     }
     const QSize size = reader.size();
     if (size.isEmpty())
-        return QStringLiteral("%1 does not tell the size of its picture").arg(namedPath(path));
+        return Messages::tr("%1 does not tell the size of its picture").arg(namedPath(path));
     if (qint64(size.width()) * size.height() > kMaximumPicturePixels) {
-        return QStringLiteral("%1 is too large: it has %2 x %3 pixels, at most %4 megapixels are "
-                              "read")
-            .arg(namedPath(path))
-            .arg(size.width())
-            .arg(size.height())
-            .arg(kMaximumPicturePixels / 1'000'000);
+        return Messages::tr(
+                   "%1 is too large: it has %2 x %3 pixels, at most %n megapixels are read",
+                   nullptr, kMaximumMegapixels)
+            .arg(namedPath(path), QString::number(size.width()), QString::number(size.height()));
     }
     return QString();
 }
@@ -58,7 +59,7 @@ std::optional<QImage> decode(QFile &file, const QString &path, QString &problem)
     QImage picture = reader.read();
     if (!picture.isNull())
         return picture;
-    problem = QStringLiteral("%1 cannot be read as a picture: %2")
+    problem = Messages::tr("%1 cannot be read as a picture: %2")
                   .arg(namedPath(path), reader.errorString());
     return std::nullopt;
 }
@@ -71,7 +72,7 @@ std::optional<QImage> readFile(const QString &path, QString &problem)
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         return decode(file, path, problem);
-    problem = QStringLiteral("%1 cannot be opened: %2").arg(namedPath(path), file.errorString());
+    problem = Messages::tr("%1 cannot be opened: %2").arg(namedPath(path), file.errorString());
     return std::nullopt;
 }
 
@@ -119,7 +120,7 @@ std::optional<QVariant> pictureFromJson(const QJsonValue &json, const QString &f
                                         ConversionError &error)
 {
     if (!json.isString() && !json.isNull()) {
-        error.message = expectedMessage(QStringLiteral("a path or null"), json);
+        error.message = expectedMessage(Messages::tr("a path or null"), json);
         return std::nullopt;
     }
     if (json.toString().isEmpty())

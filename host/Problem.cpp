@@ -1,5 +1,7 @@
 #include "host/Problem.h"
 
+#include "host/Messages_p.h"
+
 #include <algorithm>
 
 namespace Tessark::PropertyHost {
@@ -30,10 +32,10 @@ QString Problem::toString(const QString &fileName) const
         text += QLatin1Char(':') + QString::number(line);
     if (line > 0 && column > 0)
         text += QLatin1Char(':') + QString::number(column);
-    text += severity == Severity::Error ? QLatin1String(": error: ") : QLatin1String(": warning: ");
-    if (!pointer.isEmpty())
-        text += printable(pointer) + QLatin1String(": ");
-    return text + printable(message);
+    const QString place = pointer.isEmpty() ? QString() : printable(pointer) + QLatin1String(": ");
+    const QString told =
+        severity == Severity::Error ? Messages::tr("error: %1") : Messages::tr("warning: %1");
+    return text + QLatin1String(": ") + told.arg(place + printable(message));
 }
 
 bool hasErrors(const QVector<Problem> &problems)

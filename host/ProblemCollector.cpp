@@ -1,6 +1,7 @@
 #include "host/ProblemCollector_p.h"
 
 #include "host/ListKeys_p.h"
+#include "host/Messages_p.h"
 
 #include <algorithm>
 #include <utility>
@@ -58,9 +59,9 @@ QVector<Problem> ProblemCollector::take()
         Problem rest;
         rest.severity =
             m_unlistedErrors > 0 ? Problem::Severity::Error : Problem::Severity::Warning;
-        rest.message = QStringLiteral("%1 more errors and %2 more warnings are not listed")
-                           .arg(m_unlistedErrors)
-                           .arg(m_unlistedWarnings);
+        rest.message = Messages::tr("%1 and %2 are not listed")
+                           .arg(Messages::tr("%n more errors", nullptr, m_unlistedErrors),
+                                Messages::tr("%n more warnings", nullptr, m_unlistedWarnings));
         m_problems.append(rest);
     }
     m_unlistedErrors = 0;

@@ -4,6 +4,7 @@
 #include "host/HostHints.h"
 #include "host/JsonInput_p.h"
 #include "host/ListKeys_p.h"
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/RowCheck_p.h"
 #include "host/RuleSet_p.h"
@@ -83,7 +84,7 @@ PropertyListResult Reader::read(const QJsonDocument &document)
     if (document.isObject()) {
         readDocument(document.object());
     } else {
-        m_problems.error(QString(), expectedMessage(QStringLiteral("an object"), document.array()));
+        m_problems.error(QString(), expectedMessage(Messages::tr("an object"), document.array()));
     }
     PropertyListResult result;
     result.list = std::move(m_list);
@@ -98,13 +99,13 @@ void Reader::readDocument(const QJsonObject &document)
     checkKeys(document, documentKeys(), QString());
     const QJsonValue version = document.value(kKeyVersion);
     if (version.isUndefined()) {
-        m_problems.error(QString(), QStringLiteral("\"version\" is missing"));
+        m_problems.error(QString(), Messages::tr("\"%1\" is missing").arg(kKeyVersion));
     } else if (!version.isDouble()) {
         m_problems.error(childPointer(QString(), kKeyVersion),
-                         expectedMessage(QStringLiteral("a number"), version));
+                         expectedMessage(Messages::tr("a number"), version));
     } else if (version.toDouble() != kListVersion) {
         m_problems.error(childPointer(QString(), kKeyVersion),
-                         QStringLiteral("expected version %1, found %2")
+                         Messages::tr("expected version %1, found %2")
                              .arg(kListVersion)
                              .arg(version.toDouble()));
     }
@@ -116,12 +117,12 @@ void Reader::readDocument(const QJsonObject &document)
 void Reader::readProperties(const QJsonValue &json)
 {
     if (json.isUndefined()) {
-        m_problems.error(QString(), QStringLiteral("\"properties\" is missing"));
+        m_problems.error(QString(), Messages::tr("\"%1\" is missing").arg(kKeyProperties));
         return;
     }
     if (!json.isArray()) {
         m_problems.error(childPointer(QString(), kKeyProperties),
-                         expectedMessage(QStringLiteral("an array"), json));
+                         expectedMessage(Messages::tr("an array"), json));
         return;
     }
     const QJsonArray rows = json.toArray();
@@ -130,7 +131,7 @@ void Reader::readProperties(const QJsonValue &json)
         if (row.isObject())
             readRow(row.toObject(), i);
         else
-            m_problems.error(rowPointer(i), expectedMessage(QStringLiteral("an object"), row));
+            m_problems.error(rowPointer(i), expectedMessage(Messages::tr("an object"), row));
     }
     m_check.finish();
     readRules(m_rows, m_problems);
@@ -175,7 +176,7 @@ std::optional<QString> Reader::readText(const QJsonObject &object, const QString
 std::optional<QString> Reader::readType(const QJsonObject &row, const QString &pointer)
 {
     if (!row.contains(kKeyType))
-        m_problems.error(pointer, QStringLiteral("\"type\" is missing"));
+        m_problems.error(pointer, Messages::tr("\"%1\" is missing").arg(kKeyType));
     return readText(row, pointer, kKeyType);
 }
 
@@ -196,7 +197,7 @@ void Reader::readHints(Property &property, const QJsonObject &row, const QString
     if (json.isUndefined())
         return;
     if (!json.isObject()) {
-        m_problems.error(hintsPointer, expectedMessage(QStringLiteral("an object"), json));
+        m_problems.error(hintsPointer, expectedMessage(Messages::tr("an object"), json));
         return;
     }
     const QJsonObject hints = json.toObject();
@@ -225,7 +226,7 @@ void Reader::readHint(Property &property, const QString &key, const QJsonValue &
 void Reader::readTextures(Property &property, const QJsonValue &json, const QString &pointer)
 {
     if (!json.isArray()) {
-        m_problems.error(pointer, expectedMessage(QStringLiteral("an array"), json));
+        m_problems.error(pointer, expectedMessage(Messages::tr("an array"), json));
         return;
     }
     QVariantList textures;
@@ -235,8 +236,8 @@ void Reader::readTextures(Property &property, const QJsonValue &json, const QStr
         ConversionError error;
         const auto texture = textureFromHintEntry(entries.at(i), m_list.folder(), error);
         if (texture && names.contains(texture->name)) {
-            error.message = QStringLiteral("the name %1 is taken by a texture before")
-                                .arg(quoted(texture->name));
+            error.message =
+                Messages::tr("the name %1 is taken by a texture before").arg(quoted(texture->name));
         }
         if (!error.message.isEmpty()) {
             addError(childPointer(pointer, i), error);
@@ -300,7 +301,7 @@ void Reader::checkKeys(const QJsonObject &object, const QStringList &known, cons
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         if (!known.contains(it.key())) {
             m_problems.error(childPointer(pointer, it.key()),
-                             QStringLiteral("unknown key%1").arg(m_check.suggest(it.key(), known)));
+                             Messages::tr("unknown key%1").arg(m_check.suggest(it.key(), known)));
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "host/JsonConversion_p.h"
 #include "host/JsonInput_p.h"
+#include "host/Messages_p.h"
 #include "host/PictureJson_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/PropertyList.h"
@@ -96,7 +97,7 @@ QVector<Problem> PropertyStore::readValues(const QByteArray &json, const Propert
         return problems;
     ProblemCollector collector;
     if (!document->isObject()) {
-        collector.error(QString(), expectedMessage(QStringLiteral("an object"), document->array()));
+        collector.error(QString(), expectedMessage(Messages::tr("an object"), document->array()));
         return collector.take();
     }
     const QJsonObject values = document->object();
@@ -149,7 +150,7 @@ bool PropertyStore::take(const Property &property, const std::optional<QVariant>
     m_values.insert(property.name, *value);
     if (isOutsideRange(property, *value)) {
         problems.warning(pointer,
-                         QStringLiteral("%1 is outside of the range").arg(componentsText(*value)));
+                         Messages::tr("%1 is outside of the range").arg(componentsText(*value)));
     }
     return true;
 }

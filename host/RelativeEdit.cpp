@@ -1,5 +1,6 @@
 #include "host/RelativeEdit.h"
 
+#include "host/Messages_p.h"
 #include "host/ValueCheck_p.h"
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
@@ -112,16 +113,16 @@ double roundedWhole(ValueKind kind, double number)
 QString refusal(const Property &property, const RelativeEdit &edit, const QVector<double> &operand)
 {
     if (!hasArithmetic(typeTraits(property.type).kind))
-        return QStringLiteral("type \"%1\" has no arithmetic").arg(property.type);
+        return Messages::tr("type \"%1\" has no arithmetic").arg(property.type);
     if (operand.isEmpty()) {
         const int count = componentCount(property);
-        return count == 1 ? QStringLiteral("the operand is not a number")
-                          : QStringLiteral("the operand is neither a number nor %1").arg(count);
+        return count == 1 ? Messages::tr("the operand is not a number")
+                          : Messages::tr("the operand is neither a number nor %n", nullptr, count);
     }
     if (!isFinite(operand))
-        return QStringLiteral("the operand is not a finite number");
+        return Messages::tr("the operand is not a finite number");
     if (edit.operation == RelativeOperation::Divide && operand.contains(0.0))
-        return QStringLiteral("division by zero");
+        return Messages::tr("division by zero");
     return {};
 }
 
@@ -222,7 +223,7 @@ std::optional<QVariant> applyRelativeEdit(const Property &property, const QVaria
         return std::nullopt;
     QVector<double> numbers = numbersOf(property, value);
     if (numbers.size() != operand.size() || !isFinite(numbers)) {
-        error = QStringLiteral("the value is not %1").arg(kindName(kind));
+        error = Messages::tr("the value is not %1").arg(kindName(kind));
         return std::nullopt;
     }
     for (int i = 0; i < numbers.size(); ++i) {
@@ -232,7 +233,7 @@ std::optional<QVariant> applyRelativeEdit(const Property &property, const QVaria
     }
     const QVariant result = isFinite(numbers) ? valueOfNumbers(property, numbers) : QVariant();
     if (!result.isValid()) {
-        error = QStringLiteral("the result is not %1").arg(kindName(kind));
+        error = Messages::tr("the result is not %1").arg(kindName(kind));
         return std::nullopt;
     }
     return result;

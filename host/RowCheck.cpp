@@ -2,6 +2,7 @@
 
 #include "host/HintUse_p.h"
 #include "host/ListKeys_p.h"
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
 #include "host/ValueCheck_p.h"
@@ -47,7 +48,7 @@ void RowCheck::addType(const QString &type, const QString &pointer)
 
 void RowCheck::tellMissingName(const QString &pointer)
 {
-    m_problems.error(pointer, QStringLiteral("\"name\" is missing"));
+    m_problems.error(pointer, Messages::tr("\"%1\" is missing").arg(kKeyName));
 }
 
 /// True when the name can be the row's. A row that could not be found by its name is told.
@@ -55,12 +56,12 @@ bool RowCheck::takeName(const QString &name, const QString &pointer)
 {
     const QString namePointer = childPointer(pointer, kKeyName);
     if (name.isEmpty()) {
-        m_problems.error(namePointer, QStringLiteral("the name is empty"));
+        m_problems.error(namePointer, Messages::tr("the name is empty"));
         return false;
     }
     if (m_names.contains(name)) {
         m_problems.error(namePointer,
-                         QStringLiteral("the name %1 is taken by a row before").arg(quoted(name)));
+                         Messages::tr("the name %1 is taken by a row before").arg(quoted(name)));
         return false;
     }
     m_names.insert(name);
@@ -73,7 +74,7 @@ bool RowCheck::checkEditor(Property &property, const QString &pointer)
         return true;
     m_problems.warning(
         childPointer(pointer, kKeyType),
-        QStringLiteral("no editor for type %1, the row is skipped%2")
+        Messages::tr("no editor for type %1, the row is skipped%2")
             .arg(quoted(property.type), vocabularyTypes().contains(property.type)
                                             ? QString()
                                             : suggestion(property.type, vocabularyTypes())));
@@ -84,7 +85,7 @@ void RowCheck::checkHintKey(const QString &key, const QString &hintPointer)
 {
     if (!knownHints().contains(key))
         m_problems.warning(hintPointer,
-                           QStringLiteral("unknown hint%1").arg(suggest(key, knownHints())));
+                           Messages::tr("unknown hint%1").arg(suggest(key, knownHints())));
 }
 
 void RowCheck::checkHintUse(const Property &property, const QString &pointer)
@@ -93,7 +94,7 @@ void RowCheck::checkHintUse(const Property &property, const QString &pointer)
         if (!isHintRead(property.type, hint.key())) {
             m_problems.warning(
                 childPointer(childPointer(pointer, kKeyHints), hint.key()),
-                QStringLiteral("no editor reads this hint for type %1").arg(quoted(property.type)));
+                Messages::tr("no editor reads this hint for type %1").arg(quoted(property.type)));
         }
     }
 }
@@ -105,19 +106,20 @@ void RowCheck::checkChoices(const Property &property, const QString &pointer)
     if (property.hints.contains(kPropertyHintValues) && values != texts) {
         m_problems.warning(
             childPointer(childPointer(pointer, kKeyHints), kPropertyHintValues),
-            QStringLiteral("%1 values for %2 \"display_values\"").arg(values).arg(texts));
+            Messages::tr("%n values for %1 \"display_values\"", nullptr, static_cast<int>(values))
+                .arg(texts));
     }
 }
 
 void RowCheck::tellUselessBound(const QString &type, const QString &boundPointer)
 {
     m_problems.warning(boundPointer,
-                       QStringLiteral("means nothing for type %1, ignored").arg(quoted(type)));
+                       Messages::tr("means nothing for type %1, ignored").arg(quoted(type)));
 }
 
 void RowCheck::tellMissingMaximum(const QString &pointer)
 {
-    m_problems.warning(pointer, QStringLiteral("\"max\" is missing and counts as 0"));
+    m_problems.warning(pointer, Messages::tr("\"max\" is missing and counts as 0"));
 }
 
 void RowCheck::checkBounds(const Property &property, const QString &pointer)
@@ -129,9 +131,9 @@ void RowCheck::checkBounds(const Property &property, const QString &pointer)
 void RowCheck::checkDefaultRange(const Property &property, const QString &pointer)
 {
     if (isOutsideRange(property, property.defaultValue)) {
-        m_problems.warning(childPointer(pointer, kKeyDefault),
-                           QStringLiteral("%1 is outside of the range")
-                               .arg(componentsText(property.defaultValue)));
+        m_problems.warning(
+            childPointer(pointer, kKeyDefault),
+            Messages::tr("%1 is outside of the range").arg(componentsText(property.defaultValue)));
     }
 }
 
@@ -175,7 +177,7 @@ void RowCheck::checkBoundKind(const Property &property, const QVariant &bound,
     if (bound.isValid() && !isOfKind(property, bound)) {
         m_problems.error(
             boundPointer,
-            QStringLiteral("the bound is not %1").arg(kindName(typeTraits(property.type).kind)));
+            Messages::tr("the bound is not %1").arg(kindName(typeTraits(property.type).kind)));
     }
 }
 
@@ -185,7 +187,7 @@ void RowCheck::checkBoundPair(const QString &pointer, const QVariant &lower,
 {
     if (isAbove(lower, upper)) {
         m_problems.error(childPointer(pointer, lowerKey),
-                         QStringLiteral("%1 is above \"%2\", which is %3")
+                         Messages::tr("%1 is above \"%2\", which is %3")
                              .arg(componentsText(lower), upperKey, componentsText(upper)));
     }
 }
@@ -199,10 +201,9 @@ void RowCheck::checkDefault(const Property &property, const QString &pointer)
     if (kind == ValueKind::None) {
         m_problems.error(
             defaultPointer,
-            QStringLiteral("a property of type %1 has no value").arg(quoted(property.type)));
+            Messages::tr("a property of type %1 has no value").arg(quoted(property.type)));
     } else if (!isOfKind(property, property.defaultValue)) {
-        m_problems.error(defaultPointer,
-                         QStringLiteral("the default is not %1").arg(kindName(kind)));
+        m_problems.error(defaultPointer, Messages::tr("the default is not %1").arg(kindName(kind)));
     } else {
         checkDefaultRange(property, pointer);
     }

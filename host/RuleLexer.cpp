@@ -1,5 +1,6 @@
 #include "host/RuleLexer_p.h"
 
+#include "host/Messages_p.h"
 #include "host/Suggestion_p.h"
 
 #include <QLocale>
@@ -90,7 +91,7 @@ RuleToken RuleLexer::readNumber()
     token.number = QLocale::c().toDouble(text, &ok);
     if (ok && std::isfinite(token.number) && !continuesName(at(m_position)))
         return token;
-    return makeToken(RuleToken::Kind::Bad, QStringLiteral("%1 is not a number").arg(quoted(text)),
+    return makeToken(RuleToken::Kind::Bad, Messages::tr("%1 is not a number").arg(quoted(text)),
                      start);
 }
 
@@ -106,7 +107,7 @@ RuleToken RuleLexer::readQuoted(QChar quote, RuleToken::Kind kind)
     }
     if (m_position++ >= m_text.size())
         return makeToken(RuleToken::Kind::Bad,
-                         QStringLiteral("the %1 that opens here never closes").arg(quote), start);
+                         Messages::tr("the %1 that opens here never closes").arg(quote), start);
     return makeToken(kind, content, start);
 }
 
@@ -121,9 +122,9 @@ RuleToken RuleLexer::readSign()
         return makeToken(RuleToken::Kind::Sign, text, start);
     }
     const QString hint =
-        at(start) == QLatin1Char('=') ? QStringLiteral(" (did you mean \"==\"?)") : QString();
+        at(start) == QLatin1Char('=') ? didYouMean(QStringLiteral("==")) : QString();
     return makeToken(RuleToken::Kind::Bad,
-                     QStringLiteral("%1 is not expected%2").arg(quoted(at(start)), hint), start);
+                     Messages::tr("%1 is not expected%2").arg(quoted(at(start)), hint), start);
 }
 
 QChar RuleLexer::at(int position) const

@@ -1,5 +1,6 @@
 #include "host/RuleNames_p.h"
 
+#include "host/Messages_p.h"
 #include "host/Suggestion_p.h"
 #include "host/ValueCheck_p.h"
 #include "host/ValueJson.h"
@@ -109,10 +110,8 @@ QString objectionToIndex(const Property &property, const RuleValue &constant)
     const auto *const number = std::get_if<double>(&constant);
     if (!number || (*number >= 0 && *number < count && std::trunc(*number) == *number))
         return {};
-    return QStringLiteral("%1 has no choice %2, the list has %3")
-        .arg(quoted(property.name))
-        .arg(*number)
-        .arg(count);
+    return Messages::tr("%1 has no choice %2, the list has %n", nullptr, count)
+        .arg(quoted(property.name), QString::number(*number));
 }
 
 } // namespace
@@ -181,9 +180,10 @@ QString RuleNames::objection(int row, const RuleValue &constant) const
         texts.append(value.toString());
     }
     const auto *const text = std::get_if<QString>(&constant);
-    return QStringLiteral("%1 is not one of the values of %2%3")
-        .arg(text ? quoted(*text) : QStringLiteral("this"), quoted(choices.name),
-             text ? suggestion(*text, texts) : QString());
+    if (!text)
+        return Messages::tr("this is not one of the values of %1").arg(quoted(choices.name));
+    return Messages::tr("%1 is not one of the values of %2%3")
+        .arg(quoted(*text), quoted(choices.name), suggestion(*text, texts));
 }
 
 QString RuleNames::suggest(const QString &name) const

@@ -1,5 +1,6 @@
 #include "host/RuleParser_p.h"
 
+#include "host/Messages_p.h"
 #include "host/RuleLexer_p.h"
 #include "host/RuleNames_p.h"
 #include "host/Suggestion_p.h"
@@ -31,17 +32,17 @@ QString typeName(RuleType type)
 {
     switch (type) {
     case RuleType::Boolean:
-        return QStringLiteral("a truth value");
+        return Messages::tr("a truth value");
     case RuleType::Number:
-        return QStringLiteral("a number");
+        return Messages::tr("a number");
     case RuleType::Text:
-        return QStringLiteral("a text");
+        return Messages::tr("a text");
     case RuleType::Numbers:
-        return QStringLiteral("a value of several parts");
+        return Messages::tr("a value of several parts");
     case RuleType::Any:
         break;
     }
-    return QStringLiteral("a value");
+    return Messages::tr("a value");
 }
 
 bool isReserved(const QString &word)
@@ -50,6 +51,17 @@ bool isReserved(const QString &word)
                                      QStringLiteral("not"),  QStringLiteral("in"),
                                      QStringLiteral("true"), QStringLiteral("false")};
     return s_words.contains(word);
+}
+
+QString unknownComponent(const PropertyUI::Property &property, const QString &component,
+                         const QStringList &components)
+{
+    const QString guess = suggestion(component, components);
+    if (!guess.isEmpty())
+        return Messages::tr("%1 has no component %2%3")
+            .arg(quoted(property.name), quoted(component), guess);
+    return Messages::tr("%1 has no component %2, but %3")
+        .arg(quoted(property.name), quoted(component), components.join(QLatin1String(", ")));
 }
 
 /// An operation with the place where its text starts.
@@ -290,7 +302,7 @@ Term Parser::parseName()
     const int row = point > 0 ? m_names.find(token.text.left(point)) : -1;
     if (row >= 0)
         return makeOperand(row, token.text.mid(point + 1), token.position);
-    fail(token.position, QStringLiteral("there is no property %1%2")
+    fail(token.position, Messages::tr("there is no property %1%2")
                              .arg(quoted(token.text), m_names.suggest(token.text)));
     return {};
 }
@@ -310,7 +322,7 @@ Term Parser::parseQuotedName()
     const int row = m_names.find(name.text);
     if (row >= 0)
         return makeOperand(row, component, name.position);
-    fail(name.position, QStringLiteral("there is no property %1%2")
+    fail(name.position, Messages::tr("there is no property %1%2")
                             .arg(quoted(name.text), m_names.suggest(name.text)));
     return {};
 }
@@ -327,17 +339,12 @@ Term Parser::makeOperand(int row, const QString &component, int position)
     operand.operand.row = row;
     operand.operand.component = static_cast<int>(components.indexOf(component));
     if (!isReadable) {
-        fail(position, QStringLiteral("rules cannot read %1, which is of type %2")
+        fail(position, Messages::tr("rules cannot read %1, which is of type %2")
                            .arg(quoted(property.name), quoted(property.type)));
     } else if (!component.isEmpty() && components.isEmpty()) {
-        fail(position, QStringLiteral("%1 has no components").arg(quoted(property.name)));
+        fail(position, Messages::tr("%1 has no components").arg(quoted(property.name)));
     } else if (!component.isEmpty() && operand.operand.component < 0) {
-        const QString guess = suggestion(component, components);
-        fail(position, QStringLiteral("%1 has no component %2%3")
-                           .arg(quoted(property.name), quoted(component),
-                                guess.isEmpty() ? QStringLiteral(", but ")
-                                                      + components.join(QLatin1String(", "))
-                                                : guess));
+        fail(position, unknownComponent(property, component, components));
     }
     if (hasFailed())
         return {};
@@ -403,7 +410,7 @@ bool Parser::refuseWhole(const Term &term)
         return false;
     const PropertyUI::Property &property = m_names.property(node(term).operand.row);
     const QStringList components = componentNames(typeTraits(property.type).kind);
-    fail(term.position, QStringLiteral("%1 has several parts, name one as in %2")
+    fail(term.position, Messages::tr("%1 has several parts, name one as in %2")
                             .arg(quoted(property.name),
                                  quoted(property.name + QLatin1Char('.') + components.first())));
     return true;
@@ -414,9 +421,8 @@ void Parser::require(const Term &term, RuleType type)
     if (hasFailed() || node(term).type == type || node(term).type == RuleType::Any)
         return;
     if (!refuseWhole(term)) {
-        fail(
-            term.position,
-            QStringLiteral("expected %1, found %2").arg(typeName(type), typeName(node(term).type)));
+        fail(term.position,
+             Messages::tr("expected %1, found %2").arg(typeName(type), typeName(node(term).type)));
     }
 }
 
@@ -444,17 +450,17 @@ void Parser::expectSign(const char *sign)
     if (m_token.kind == RuleToken::Kind::Bad)
         failAtToken();
     else
-        fail(m_token.position, QStringLiteral("%1 is missing").arg(quoted(QLatin1String(sign))));
+        fail(m_token.position, Messages::tr("%1 is missing").arg(quoted(QLatin1String(sign))));
 }
 
 void Parser::failAtToken()
 {
     if (m_token.kind == RuleToken::Kind::End)
-        fail(m_token.position, QStringLiteral("the rule ends too early"));
+        fail(m_token.position, Messages::tr("the rule ends too early"));
     else if (m_token.kind == RuleToken::Kind::Bad)
         fail(m_token.position, m_token.text);
     else
-        fail(m_token.position, QStringLiteral("%1 is not expected").arg(quoted(m_token.text)));
+        fail(m_token.position, Messages::tr("%1 is not expected").arg(quoted(m_token.text)));
 }
 
 void Parser::fail(int position, const QString &message)
@@ -467,7 +473,7 @@ bool Parser::descend()
 {
     if (++m_depth > kMaximumRuleDepth) {
         fail(m_token.position,
-             QStringLiteral("a rule may be nested %1 deep at most").arg(kMaximumRuleDepth));
+             Messages::tr("a rule may be nested %n deep at most", nullptr, kMaximumRuleDepth));
     }
     return !hasFailed();
 }
@@ -477,7 +483,7 @@ bool isTooLong(const QString &text, RuleError &error)
     if (text.size() <= kMaximumRuleLength)
         return false;
     error = {kMaximumRuleLength,
-             QStringLiteral("a rule may have %1 characters at most").arg(kMaximumRuleLength)};
+             Messages::tr("a rule may have %n characters at most", nullptr, kMaximumRuleLength)};
     return true;
 }
 
@@ -506,7 +512,7 @@ std::optional<RuleTree> parseBound(const QString &text, const RuleNames &names, 
         const int found = names.componentCount(parser.node(term).operand.row);
         if (found != count) {
             parser.fail(term.position,
-                        QStringLiteral("expected %1 numbers, found %2").arg(count).arg(found));
+                        Messages::tr("expected %n numbers, found %1", nullptr, count).arg(found));
         }
     } else {
         parser.require(term, RuleType::Number);

@@ -1,6 +1,7 @@
 #include "host/RuleSet_p.h"
 
 #include "host/HostHints.h"
+#include "host/Messages_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/RuleCycles_p.h"
 #include "host/RuleNames_p.h"
@@ -111,7 +112,7 @@ private:
     bool isPlacedWell(int row, RuleUse use, const QString &pointer);
     std::optional<RuleTree> readText(int row, RuleUse use, const QString &text,
                                      const QString &pointer);
-    void removeCircles(const QVector<RuleUse> &uses, const QString &what);
+    void removeCircles(const QVector<RuleUse> &uses, const char *message);
     QString circleText(const QVector<int> &rows) const;
     void keepAllBut(const QSet<int> &removed);
 
@@ -134,9 +135,13 @@ std::vector<Rule> RuleReader::read()
     }
     if (m_rules.empty())
         return {};
-    removeCircles({RuleUse::Visible, RuleUse::Enabled}, QStringLiteral("rules"));
-    removeCircles({RuleUse::Minimum}, QStringLiteral("minima"));
-    removeCircles({RuleUse::Maximum}, QStringLiteral("maxima"));
+    removeCircles(
+        {RuleUse::Visible, RuleUse::Enabled},
+        QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "these rules go in a circle: %1"));
+    removeCircles({RuleUse::Minimum}, QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages",
+                                                        "these minima go in a circle: %1"));
+    removeCircles({RuleUse::Maximum}, QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages",
+                                                        "these maxima go in a circle: %1"));
     return std::move(m_rules);
 }
 
@@ -148,14 +153,13 @@ void RuleReader::readRule(int row, const HintUse &use, const QVariant &hint)
     const bool isList = hint.userType() == QMetaType::QStringList;
     if (texts.isEmpty() || (isBound(use.use) && isList)) {
         m_problems.error(pointer, isBound(use.use)
-                                      ? QStringLiteral("expected an expression as text")
-                                      : QStringLiteral("expected a condition as text, or several"));
+                                      ? Messages::tr("expected an expression as text")
+                                      : Messages::tr("expected a condition as text, or several"));
         return;
     }
     if (texts.size() > kMaximumConditions) {
-        m_problems.error(
-            pointer,
-            QStringLiteral("a rule may have %1 conditions at most").arg(kMaximumConditions));
+        m_problems.error(pointer, Messages::tr("a rule may have %n conditions at most", nullptr,
+                                               kMaximumConditions));
         return;
     }
     Rule rule;
@@ -183,14 +187,13 @@ bool RuleReader::isPlacedWell(int row, RuleUse use, const QString &pointer)
 {
     const QString &type = m_rows.at(row).property->type;
     if (!isBound(use) && isEnd(type)) {
-        m_problems.error(pointer, QStringLiteral("the rule belongs to the row that opens what %1 "
-                                                 "closes")
-                                      .arg(quoted(type)));
+        m_problems.error(pointer,
+                         Messages::tr("the rule belongs to the row that opens what %1 closes")
+                             .arg(quoted(type)));
         return false;
     }
     if (isBound(use) && typeTraits(type).range == RangeUse::None) {
-        m_problems.error(pointer,
-                         QStringLiteral("rows of type %1 have no range").arg(quoted(type)));
+        m_problems.error(pointer, Messages::tr("rows of type %1 have no range").arg(quoted(type)));
         return false;
     }
     return true;
@@ -204,14 +207,15 @@ std::optional<RuleTree> RuleReader::readText(int row, RuleUse use, const QString
     auto tree = isBound(use) ? parseBound(text, m_names, int(componentNames(kind).size()), error)
                              : parseCondition(text, m_names, error);
     if (!tree) {
-        m_problems.error(
-            pointer, QStringLiteral("character %1: %2").arg(error.position + 1).arg(error.message));
+        m_problems.error(pointer, Messages::tr("character %1: %2")
+                                      .arg(QString::number(error.position + 1), error.message));
     }
     return tree;
 }
 
-/// Tells the circles among the rules of some uses, and takes a rule of each out.
-void RuleReader::removeCircles(const QVector<RuleUse> &uses, const QString &what)
+/// Tells the circles among the rules of some uses, and takes a rule of each out. message is a
+/// text of Messages.
+void RuleReader::removeCircles(const QVector<RuleUse> &uses, const char *message)
 {
     RuleGraph graph(static_cast<int>(m_rows.size()));
     for (std::size_t i = 0; i < m_rules.size(); ++i) {
@@ -229,9 +233,8 @@ void RuleReader::removeCircles(const QVector<RuleUse> &uses, const QString &what
     }
     QSet<int> removed;
     for (const RuleGraph::Circle &circle : graph.circles()) {
-        m_problems.error(
-            m_pointers[static_cast<std::size_t>(circle.rule)],
-            QStringLiteral("these %1 go in a circle: %2").arg(what, circleText(circle.rows)));
+        m_problems.error(m_pointers[static_cast<std::size_t>(circle.rule)],
+                         Messages::tr(message).arg(circleText(circle.rows)));
         removed.insert(circle.rule);
     }
     keepAllBut(removed);

@@ -75,18 +75,15 @@ void SearchBar::setOnlyChanged(bool onlyChanged)
 
 void SearchBar::showMatches(int count, int current)
 {
-    if (count == 0)
-        showCount(tr("No matches"));
-    else if (current >= 0)
-        showCount(tr("%1 of %2", "match, all matches")
-                      .arg(QString::number(current + 1), QString::number(count)));
-    else
-        showCount(count == 1 ? tr("1 match") : tr("%n matches", "", count));
+    m_matches = count;
+    m_currentMatch = current;
+    showCount();
 }
 
 void SearchBar::showNoSearch()
 {
-    showCount(QString());
+    m_matches.reset();
+    showCount();
 }
 
 void SearchBar::takeFocus()
@@ -139,12 +136,27 @@ void SearchBar::showTexts()
     m_onlyChanged->setToolTip(tr("Shows only rows whose value is not the default"));
     m_close->setToolTip(tr("Close the search"));
     m_close->setAccessibleName(tr("Close the search"));
+    showCount();
 }
 
-void SearchBar::showCount(const QString &text)
+void SearchBar::showCount()
 {
+    const QString text = countText();
     m_count->setText(text);
     m_field->setAccessibleDescription(text); // read out while the focus is there
+}
+
+QString SearchBar::countText() const
+{
+    if (!m_matches)
+        return QString();
+    if (*m_matches == 0)
+        return tr("No matches");
+    if (m_currentMatch >= 0) {
+        return tr("%1 of %2", "match, all matches")
+            .arg(QString::number(m_currentMatch + 1), QString::number(*m_matches));
+    }
+    return *m_matches == 1 ? tr("1 match") : tr("%n matches", "", *m_matches);
 }
 
 bool SearchBar::isOwnKey(const QKeyEvent &event) const

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -46,13 +48,16 @@ protected:
 
 private:
     void showTexts();
-    void showCount(const QString &text);
+    void showCount();
+    QString countText() const;
     bool isOwnKey(const QKeyEvent &event) const;
 
     QLineEdit *m_field;
     QToolButton *m_close;
     QCheckBox *m_onlyChanged;
     QLabel *m_count;
+    std::optional<int> m_matches; // nothing while nothing is searched for
+    int m_currentMatch = -1;
 };
 
 } // namespace Tessark::PropertyHost

@@ -2,6 +2,7 @@
 
 #include "host/ChangedRows_p.h"
 #include "host/FollowedBounds_p.h"
+#include "host/Messages_p.h"
 #include "host/PropertyList.h"
 #include "host/RowJoin_p.h"
 #include "host/SelectionMarks_p.h"
@@ -354,7 +355,7 @@ std::optional<Problem> SelectionDelegate::applyRelative(Property *property,
     Problem problem;
     const Targets targets = commonTargets(property);
     if (targets.empty()) {
-        problem.message = QStringLiteral("not a row that all selected objects have");
+        problem.message = Messages::tr("not a row that all selected objects have");
         return problem;
     }
     problem.row = m_rowOf.value(property);

@@ -1,6 +1,7 @@
 #include "host/StrangerList_p.h"
 
 #include "host/HostHints.h"
+#include "host/Messages_p.h"
 #include "host/PictureJson_p.h"
 #include "host/ProblemCollector_p.h"
 
@@ -21,11 +22,11 @@ using namespace PropertyUI;
 namespace {
 
 constexpr int kMaximumRows = 10'000;
-constexpr qint64 kMaximumTextLength = 10'000;
-constexpr qint64 kMaximumTextInAll = 1'000'000;
-constexpr qint64 kMaximumEntries = 200'000;
-constexpr qint64 kMaximumPixelsInAll = 64'000'000;
-constexpr double kMaximumExtent = 10'000.0; // of a widget; painting larger ones takes minutes
+constexpr int kMaximumTextLength = 10'000;
+constexpr int kMaximumTextInAll = 1'000'000;
+constexpr int kMaximumEntries = 200'000;
+constexpr int kMaximumMegapixelsInAll = 64;
+constexpr int kMaximumExtent = 10'000; // of a widget; painting larger ones takes minutes
 
 const QLatin1String kKeyTitle("title");
 const QLatin1String kKeyProperties("properties");
@@ -59,6 +60,24 @@ bool liesInside(const QString &path, const QString &folder)
     return !outer.isEmpty() && inner.startsWith(isRoot ? outer : outer + QLatin1Char('/'));
 }
 
+constexpr const char *kTooMuchText =
+    QT_TRANSLATE_N_NOOP("Tessark::PropertyHost::Messages",
+                        "the texts of a list may have %n characters in all, the rest is left out");
+constexpr const char *kTooManyEntries = QT_TRANSLATE_N_NOOP(
+    "Tessark::PropertyHost::Messages",
+    "the arrays and objects of a list may have %n entries in all, the rest is left out");
+constexpr const char *kTooManyPixels = QT_TRANSLATE_N_NOOP(
+    "Tessark::PropertyHost::Messages",
+    "the pictures of a list may have %n megapixels in all, the rest is left out");
+
+/// What a list may have only so much of in all.
+struct Allowance
+{
+    const char *exceeded = nullptr; // a text of Messages, with the limit
+    int limit = 0;
+    qint64 left = limit;
+};
+
 class Filter final
 {
 public:
@@ -81,14 +100,15 @@ private:
     bool isAllowedHint(const QString &key, const QJsonValue &json, const QString &pointer);
     bool isAllowedPicture(const QString &path, const QString &pointer);
     bool isAllowedDefault(const QJsonObject &row, const QString &pointer);
-    bool spend(qint64 amount, qint64 &left, const QString &pointer, const QString &message);
+    bool spend(qint64 amount, Allowance &allowance, const QString &pointer);
     void warnOfMarkup(const QJsonValue &text, const QString &pointer);
 
     QString m_folder;
     ProblemCollector &m_problems;
-    qint64 m_textLeft = kMaximumTextInAll;
-    qint64 m_entriesLeft = kMaximumEntries;
-    qint64 m_pixelsLeft = kMaximumPixelsInAll;
+    Allowance m_text{kTooMuchText, kMaximumTextInAll};
+    Allowance m_entries{kTooManyEntries, kMaximumEntries};
+    Allowance m_pixels{kTooManyPixels, kMaximumMegapixelsInAll,
+                       qint64(kMaximumMegapixelsInAll) * 1'000'000};
 };
 
 QJsonObject Filter::document(QJsonObject document)
@@ -111,14 +131,14 @@ QJsonArray Filter::rows(const QJsonArray &rows, const QString &pointer)
         const QString rowPointer = childPointer(pointer, i);
         if (i == kMaximumRows) {
             m_problems.error(rowPointer,
-                             QStringLiteral("a list may have %1 rows at most, the rest is left out")
-                                 .arg(kMaximumRows));
+                             Messages::tr("a list may have %n rows at most, the rest is left out",
+                                          nullptr, kMaximumRows));
             break;
         }
         const QJsonValue json = rows.at(i);
         const QJsonValue allowed =
             json.isObject() ? QJsonValue(row(json.toObject(), rowPointer)) : json;
-        if (m_textLeft < 0 || m_entriesLeft < 0)
+        if (m_text.left < 0 || m_entries.left < 0)
             break;
         result.append(allowed);
     }
@@ -161,8 +181,9 @@ bool Filter::isAllowedHint(const QString &key, const QJsonValue &json, const QSt
     if (!isAllowed(json, pointer))
         return false;
     if (key == kPropertyHintStyleSheet) {
-        m_problems.error(pointer, QStringLiteral("only a trusted list may have style sheets, which "
-                                                 "can name files"));
+        m_problems.error(
+            pointer,
+            Messages::tr("only a trusted list may have style sheets, which can name files"));
         return false;
     }
     const QJsonArray extents = key == kPropertyHintSize ? json.toArray() : QJsonArray();
@@ -170,9 +191,8 @@ bool Filter::isAllowedHint(const QString &key, const QJsonValue &json, const QSt
         std::any_of(extents.begin(), extents.end(),
                     [](const QJsonValue &extent) { return extent.toDouble() > kMaximumExtent; });
     if (isTooLarge) {
-        m_problems.error(
-            pointer,
-            QStringLiteral("a row may be %1 pixels wide and high at most").arg(kMaximumExtent));
+        m_problems.error(pointer, Messages::tr("a row may be %n pixels wide and high at most",
+                                               nullptr, kMaximumExtent));
     }
     return !isTooLarge;
 }
@@ -203,24 +223,20 @@ bool Filter::isAllowed(const QJsonValue &json, const QString &pointer)
 bool Filter::isAllowedText(const QString &text, const QString &pointer)
 {
     if (text.size() > kMaximumTextLength) {
-        m_problems.error(pointer, QStringLiteral("a text may have %1 characters at most, this one "
-                                                 "has %2")
-                                      .arg(kMaximumTextLength)
-                                      .arg(text.size()));
+        m_problems.error(pointer,
+                         Messages::tr("a text may have %n characters at most, this one has %1",
+                                      nullptr, kMaximumTextLength)
+                             .arg(text.size()));
         return false;
     }
-    return spend(
-        text.size(), m_textLeft, pointer,
-        QStringLiteral("the texts of a list may have %1 characters in all").arg(kMaximumTextInAll));
+    return spend(text.size(), m_text, pointer);
 }
 
 bool Filter::areAllowedEntries(const QJsonValue &json, const QString &pointer)
 {
     const QJsonArray array = json.toArray();
     const QJsonObject object = json.toObject();
-    if (!spend(array.size() + object.size(), m_entriesLeft, pointer,
-               QStringLiteral("the arrays and objects of a list may have %1 entries in all")
-                   .arg(kMaximumEntries)))
+    if (!spend(array.size() + object.size(), m_entries, pointer))
         return false;
     bool allowed = true;
     for (int i = 0; allowed && i < array.size(); ++i)
@@ -237,26 +253,24 @@ bool Filter::isAllowedPicture(const QString &path, const QString &pointer)
         return true;
     const QString resolved = resolvedPath(path, m_folder);
     if (!liesInside(resolved, m_folder)) {
-        m_problems.error(pointer,
-                         QStringLiteral("%1 lies outside of the folder of the list; only a "
-                                        "trusted list may name it")
-                             .arg(namedPath(path)));
+        m_problems.error(
+            pointer,
+            Messages::tr(
+                "%1 lies outside of the folder of the list; only a trusted list may name it")
+                .arg(namedPath(path)));
         return false;
     }
     const PictureHeader header = pictureHeader(resolved);
     if (!header.format.isEmpty() && !isSelfContained(header.format)) {
-        m_problems.error(pointer,
-                         QStringLiteral("%1 is of the format \"%2\"; only a trusted list may have "
-                                        "pictures of it")
-                             .arg(namedPath(path), QString::fromLatin1(header.format)));
+        m_problems.error(
+            pointer,
+            Messages::tr("%1 is of the format \"%2\"; only a trusted list may have pictures of it")
+                .arg(namedPath(path), QString::fromLatin1(header.format)));
         return false;
     }
     const qint64 pixels = qint64(header.size.width()) * header.size.height();
     // Too large a picture is not decoded at all.
-    return pixels > kMaximumPicturePixels
-           || spend(pixels, m_pixelsLeft, pointer,
-                    QStringLiteral("the pictures of a list may have %1 megapixels in all")
-                        .arg(kMaximumPixelsInAll / 1'000'000));
+    return pixels > kMaximumPicturePixels || spend(pixels, m_pixels, pointer);
 }
 
 bool Filter::isAllowedDefault(const QJsonObject &row, const QString &pointer)
@@ -280,22 +294,22 @@ bool Filter::isAllowedDefault(const QJsonObject &row, const QString &pointer)
 }
 
 /// Takes amount from what is left; tells when it is too much, and then only once.
-bool Filter::spend(qint64 amount, qint64 &left, const QString &pointer, const QString &message)
+bool Filter::spend(qint64 amount, Allowance &allowance, const QString &pointer)
 {
-    if (amount <= left) {
-        left -= amount;
+    if (amount <= allowance.left) {
+        allowance.left -= amount;
         return true;
     }
-    if (left >= 0)
-        m_problems.error(pointer, message + QStringLiteral(", the rest is left out"));
-    left = -1;
+    if (allowance.left >= 0)
+        m_problems.error(pointer, Messages::tr(allowance.exceeded, nullptr, allowance.limit));
+    allowance.left = -1;
     return false;
 }
 
 void Filter::warnOfMarkup(const QJsonValue &text, const QString &pointer)
 {
     if (Qt::mightBeRichText(text.toString()))
-        m_problems.warning(pointer, QStringLiteral("markup is shown as it is written"));
+        m_problems.warning(pointer, Messages::tr("markup is shown as it is written"));
 }
 
 } // namespace

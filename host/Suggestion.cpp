@@ -1,5 +1,7 @@
 #include "host/Suggestion_p.h"
 
+#include "host/Messages_p.h"
+
 #include <algorithm>
 #include <numeric>
 #include <vector>
@@ -37,6 +39,11 @@ QString quoted(const QString &text)
     return QLatin1Char('"') + shown + QLatin1Char('"');
 }
 
+QString didYouMean(const QString &text)
+{
+    return Messages::tr(" (did you mean %1?)").arg(quoted(text));
+}
+
 QString suggestion(const QString &text, const QStringList &candidates)
 {
     QString best;
@@ -51,7 +58,7 @@ QString suggestion(const QString &text, const QStringList &candidates)
             best = candidate;
         }
     }
-    return best.isEmpty() ? QString() : QStringLiteral(" (did you mean %1?)").arg(quoted(best));
+    return best.isEmpty() ? QString() : didYouMean(best);
 }
 
 } // namespace Tessark::PropertyHost

@@ -8,7 +8,10 @@ namespace Tessark::PropertyHost {
 /// The text in double quotes for a message, cut when it is long.
 QString quoted(const QString &text);
 
-/// " (did you mean "x"?)" with the candidate that at most two typing slips turn into text, or
+/// " (did you mean "x"?)" for the end of a message.
+QString didYouMean(const QString &text);
+
+/// didYouMean() with the candidate that at most two typing slips turn into text, or
 /// nothing when there is none.
 QString suggestion(const QString &text, const QStringList &candidates);
 

@@ -1,6 +1,7 @@
 #include "host/TextureJson_p.h"
 
 #include "host/HostHints.h"
+#include "host/Messages_p.h"
 #include "host/PictureJson_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
@@ -50,7 +51,7 @@ std::optional<QString> nonEmptyText(const QJsonObject &object, const QString &ke
 {
     auto text = textFromJson(object.value(key), error);
     if (text && text->isEmpty()) {
-        error.message = QStringLiteral("the %1 is empty").arg(key);
+        error.message = Messages::tr("the %1 is empty").arg(key);
         text.reset();
     }
     if (!text)
@@ -82,11 +83,11 @@ std::optional<TextureChoice> textureFromHintEntry(const QJsonValue &json, const 
     if (json.isObject())
         return textureFromObject(json.toObject(), folder, error);
     if (!json.isString()) {
-        error.message = expectedMessage(QStringLiteral("a path or an object with \"file\""), json);
+        error.message = expectedMessage(Messages::tr("a path or an object with \"file\""), json);
         return std::nullopt;
     }
     if (json.toString().isEmpty()) {
-        error.message = QStringLiteral("the path is empty");
+        error.message = Messages::tr("the path is empty");
         return std::nullopt;
     }
     return readTexture(json.toString(), json.toString(), folder, error);
@@ -115,7 +116,7 @@ std::optional<QVariant> textureFromJson(const PropertyUI::Property &property,
 {
     if (!json.isString() && !json.isNull()) {
         error.message =
-            expectedMessage(QStringLiteral("the name of a texture, a path or null"), json);
+            expectedMessage(Messages::tr("the name of a texture, a path or null"), json);
         return std::nullopt;
     }
     const QString text = json.toString();
@@ -129,7 +130,7 @@ std::optional<QVariant> textureFromJson(const PropertyUI::Property &property,
             return texture;
     }
     if (!names.isEmpty() && !QFileInfo::exists(resolvedPath(text, folder))) {
-        error.message = QStringLiteral("%1 is neither one of the \"textures\" nor a file%2")
+        error.message = Messages::tr("%1 is neither one of the \"textures\" nor a file%2")
                             .arg(quoted(text), suggestion(text, names));
         return std::nullopt;
     }

@@ -1,5 +1,6 @@
 #include "host/ValueCheck_p.h"
 
+#include "host/Messages_p.h"
 #include "host/ValueJson_p.h"
 #include "host/ValueKind_p.h"
 
@@ -139,45 +140,45 @@ QString kindName(ValueKind kind)
 {
     switch (kind) {
     case ValueKind::None:
-        return QStringLiteral("no value");
+        return Messages::tr("no value");
     case ValueKind::Any:
-        return QStringLiteral("a value");
+        return Messages::tr("a value");
     case ValueKind::Boolean:
-        return QStringLiteral("a truth value");
+        return Messages::tr("a truth value");
     case ValueKind::Integer:
-        return QStringLiteral("a whole number");
+        return Messages::tr("a whole number");
     case ValueKind::Number:
-        return QStringLiteral("a number");
+        return Messages::tr("a number");
     case ValueKind::Text:
-        return QStringLiteral("a text");
+        return Messages::tr("a text");
     case ValueKind::Choice:
-        return QStringLiteral("one of the choices");
+        return Messages::tr("one of the choices");
     case ValueKind::Vector2:
-        return QStringLiteral("a vector of 2");
+        return Messages::tr("a vector of 2");
     case ValueKind::Vector3:
-        return QStringLiteral("a vector of 3");
+        return Messages::tr("a vector of 3");
     case ValueKind::Vector4:
-        return QStringLiteral("a vector of 4");
+        return Messages::tr("a vector of 4");
     case ValueKind::Color:
     case ValueKind::OpaqueColor:
-        return QStringLiteral("a colour");
+        return Messages::tr("a colour");
     case ValueKind::Point:
     case ValueKind::PointF:
-        return QStringLiteral("a point");
+        return Messages::tr("a point");
     case ValueKind::Size:
     case ValueKind::SizeF:
-        return QStringLiteral("a size");
+        return Messages::tr("a size");
     case ValueKind::Rect:
     case ValueKind::RectF:
-        return QStringLiteral("a rectangle");
+        return Messages::tr("a rectangle");
     case ValueKind::Matrix:
-        return QStringLiteral("a matrix");
+        return Messages::tr("a matrix");
     case ValueKind::Picture:
-        return QStringLiteral("a picture");
+        return Messages::tr("a picture");
     case ValueKind::ImageFormat:
-        return QStringLiteral("an image format");
+        return Messages::tr("an image format");
     case ValueKind::Texture:
-        return QStringLiteral("a texture");
+        return Messages::tr("a texture");
     }
     return {};
 }

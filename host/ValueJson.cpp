@@ -1,6 +1,7 @@
 #include "host/ValueJson.h"
 
 #include "host/ImageFormatJson_p.h"
+#include "host/Messages_p.h"
 #include "host/PictureJson_p.h"
 #include "host/ProblemCollector_p.h"
 #include "host/Suggestion_p.h"
@@ -31,6 +32,25 @@ namespace {
 
 using Matrix = QGenericMatrix<3, 3, double>;
 constexpr int kMatrixSize = 9;
+
+// What errors call the forms of values.
+constexpr const char *kPointForm = QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "[x, y]");
+constexpr const char *kRectForm =
+    QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "[x, y, width, height]");
+constexpr const char *kMatrixForm =
+    QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "9 numbers");
+
+const char *vectorForm(int count)
+{
+    switch (count) {
+    case 2:
+        return QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "2 numbers");
+    case 3:
+        return QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "3 numbers");
+    default:
+        return QT_TRANSLATE_NOOP("Tessark::PropertyHost::Messages", "4 numbers");
+    }
+}
 
 template <typename T>
 std::optional<QVariant> toVariant(const std::optional<T> &value)
@@ -64,7 +84,7 @@ std::optional<QVariant> choiceValueFromJson(const Property &property, const QJso
     if (found != values.cend())
         return *found;
     const QString shown = json.isString() ? quoted(json.toString()) : scalar->toString();
-    error.message = QStringLiteral("%1 is not one of the \"values\"").arg(shown);
+    error.message = Messages::tr("%1 is not one of the \"values\"").arg(shown);
     return std::nullopt;
 }
 
@@ -79,7 +99,8 @@ std::optional<QVariant> choiceFromJson(const Property &property, const QJsonValu
     const auto count = hintList(property, kPropertyHintDisplayValues).size();
     if (*index < 0 || *index >= count) {
         error.message =
-            QStringLiteral("there is no choice %1, the list has %2").arg(*index).arg(count);
+            Messages::tr("there is no choice %1, the list has %n", nullptr, static_cast<int>(count))
+                .arg(*index);
         return std::nullopt;
     }
     return *index;
@@ -104,7 +125,7 @@ bool checkSinglePrecision(const QVector<double> &numbers, ConversionError &error
         return std::abs(number) <= static_cast<double>(std::numeric_limits<float>::max());
     });
     if (!fits)
-        error.message = QStringLiteral("a vector component is too large for single precision");
+        error.message = Messages::tr("a vector component is too large for single precision");
     return fits;
 }
 
@@ -126,9 +147,8 @@ std::optional<QVariant> vectorFromJson(const QJsonValue &json, int count, Conver
 {
     if (json.isString())
         return vectorFromText(json.toString(), count, error);
-    const QString what = QStringLiteral("%1 numbers").arg(count);
     const auto numbers = json.isDouble() ? std::optional(QVector<double>(count, json.toDouble()))
-                                         : numbersFromJson(json, count, what, error);
+                                         : numbersFromJson(json, count, vectorForm(count), error);
     if (!numbers || !checkSinglePrecision(*numbers, error))
         return std::nullopt;
     return vectorVariant(*numbers);
@@ -141,7 +161,7 @@ std::optional<QVariant> matrixFromJson(const QJsonValue &json, ConversionError &
             return std::nullopt;
         return QVariant::fromValue(QMatrix3x3_fromString(json.toString()));
     }
-    const auto numbers = numbersFromJson(json, kMatrixSize, QStringLiteral("9 numbers"), error);
+    const auto numbers = numbersFromJson(json, kMatrixSize, kMatrixForm, error);
     // The constructor takes them row by row, as the text form has them.
     return numbers ? std::optional(QVariant::fromValue(Matrix(numbers->constData())))
                    : std::nullopt;
@@ -154,26 +174,26 @@ std::optional<QVariant> pointFFromJson(const QJsonValue &json, ConversionError &
             return std::nullopt;
         return QPointF_fromString(json.toString());
     }
-    const auto numbers = numbersFromJson(json, 2, QStringLiteral("[x, y]"), error);
+    const auto numbers = numbersFromJson(json, 2, kPointForm, error);
     return numbers ? std::optional(QVariant(QPointF(numbers->at(0), numbers->at(1))))
                    : std::nullopt;
 }
 
 std::optional<QVariant> pointFromJson(const QJsonValue &json, ConversionError &error)
 {
-    const auto numbers = integersFromJson(json, 2, QStringLiteral("[x, y]"), error);
+    const auto numbers = integersFromJson(json, 2, kPointForm, error);
     return numbers ? std::optional(QVariant(QPoint(numbers->at(0), numbers->at(1)))) : std::nullopt;
 }
 
 std::optional<QVariant> sizeFFromJson(const QJsonValue &json, ConversionError &error)
 {
-    const auto numbers = numbersFromJson(json, 2, QStringLiteral("[width, height]"), error);
+    const auto numbers = numbersFromJson(json, 2, kSizeForm, error);
     return numbers ? std::optional(QVariant(QSizeF(numbers->at(0), numbers->at(1)))) : std::nullopt;
 }
 
 std::optional<QVariant> rectFromJson(const QJsonValue &json, ConversionError &error)
 {
-    const auto numbers = integersFromJson(json, 4, QStringLiteral("[x, y, width, height]"), error);
+    const auto numbers = integersFromJson(json, 4, kRectForm, error);
     if (!numbers)
         return std::nullopt;
     // QRect keeps its far corner, which has to fit an int as well.
@@ -182,7 +202,7 @@ std::optional<QVariant> rectFromJson(const QJsonValue &json, ConversionError &er
     };
     for (const qint64 edge : {farEdge(0), farEdge(1)}) {
         if (edge < std::numeric_limits<int>::min() || edge > std::numeric_limits<int>::max()) {
-            error.message = QStringLiteral("the rectangle ends outside the range of whole numbers");
+            error.message = Messages::tr("the rectangle ends outside the range of whole numbers");
             return std::nullopt;
         }
     }
@@ -191,7 +211,7 @@ std::optional<QVariant> rectFromJson(const QJsonValue &json, ConversionError &er
 
 std::optional<QVariant> rectFFromJson(const QJsonValue &json, ConversionError &error)
 {
-    const auto numbers = numbersFromJson(json, 4, QStringLiteral("[x, y, width, height]"), error);
+    const auto numbers = numbersFromJson(json, 4, kRectForm, error);
     if (!numbers)
         return std::nullopt;
     return QRectF(numbers->at(0), numbers->at(1), numbers->at(2), numbers->at(3));
@@ -201,13 +221,13 @@ std::optional<QVariant> anyFromJson(const QJsonValue &json, ConversionError &err
 {
     if (!json.isNull() && !json.isUndefined())
         return json.toVariant();
-    error.message = expectedMessage(QStringLiteral("a value"), json);
+    error.message = expectedMessage(Messages::tr("a value"), json);
     return std::nullopt;
 }
 
 std::optional<QVariant> noValue(const Property &property, ConversionError &error)
 {
-    error.message = QStringLiteral("a property of type %1 has no value").arg(quoted(property.type));
+    error.message = Messages::tr("a property of type %1 has no value").arg(quoted(property.type));
     return std::nullopt;
 }
 

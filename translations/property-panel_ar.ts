@@ -235,5 +235,13 @@ Exit status:
         <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
         <translation>لا يوجد مظهر &quot;%1&quot;؛ اختر system أو light أو dark أو high-contrast.</translation>
     </message>
+    <message>
+        <source>property-panel: error: %1</source>
+        <translation>property-panel: خطأ: %1</translation>
+    </message>
+    <message>
+        <source>property-panel: warning: %1</source>
+        <translation>property-panel: تحذير: %1</translation>
+    </message>
 </context>
 </TS>

@@ -235,5 +235,13 @@ Rückgabewert:
         <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
         <translation>Es gibt kein Thema „%1“; wählen Sie system, light, dark oder high-contrast.</translation>
     </message>
+    <message>
+        <source>property-panel: error: %1</source>
+        <translation>property-panel: Fehler: %1</translation>
+    </message>
+    <message>
+        <source>property-panel: warning: %1</source>
+        <translation>property-panel: Warnung: %1</translation>
+    </message>
 </context>
 </TS>

@@ -235,5 +235,13 @@ Code de sortie :
         <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
         <translation>Il n’y a pas de thème « %1 » ; choisissez system, light, dark ou high-contrast.</translation>
     </message>
+    <message>
+        <source>property-panel: error: %1</source>
+        <translation>property-panel : erreur : %1</translation>
+    </message>
+    <message>
+        <source>property-panel: warning: %1</source>
+        <translation>property-panel : avertissement : %1</translation>
+    </message>
 </context>
 </TS>

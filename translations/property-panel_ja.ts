@@ -235,5 +235,13 @@ Exit status:
         <source>There is no theme &quot;%1&quot;; choose system, light, dark or high-contrast.</source>
         <translation>&quot;%1&quot; というテーマはありません。system、light、dark、high-contrast のいずれかを選んでください。</translation>
     </message>
+    <message>
+        <source>property-panel: error: %1</source>
+        <translation>property-panel: エラー: %1</translation>
+    </message>
+    <message>
+        <source>property-panel: warning: %1</source>
+        <translation>property-panel: 警告: %1</translation>
+    </message>
 </context>
 </TS>

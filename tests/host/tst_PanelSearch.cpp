@@ -130,6 +130,8 @@ private Q_SLOTS:
     void highlightIsBehindTheIcon_data();
     void highlightIsBehindTheIcon();
     void barFollowsTheLanguage();
+    void countFollowsTheLanguage_data();
+    void countFollowsTheLanguage();
     void emptyViewIsSearched();
     void viewDeletedWhileSearching_data();
     void viewDeletedWhileSearching();
@@ -1339,6 +1341,43 @@ void tst_PanelSearch::barFollowsTheLanguage()
     }
 
     QTRY_COMPARE(onlyChanged()->text(), before);
+}
+
+void tst_PanelSearch::countFollowsTheLanguage_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<bool>("walks");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("none") << name("nowhere") << false << name("No matches");
+    QTest::newRow("one") << name("row1") << false << name("1 match");
+    QTest::newRow("several") << name("row") << false << name("3 matches");
+    QTest::newRow("at one of several") << name("row") << true << name("1 of 3");
+}
+
+void tst_PanelSearch::countFollowsTheLanguage()
+{
+    QFETCH(QString, words);
+    QFETCH(bool, walks);
+    QFETCH(QString, text);
+    addRows("row", 3);
+    show();
+    openByKey();
+    type(qPrintable(words));
+    if (walks)
+        press(Qt::Key_Down);
+    QCOMPARE(count(), text);
+    {
+        const MarkingTranslator translator("Tessark::PropertyHost::SearchBar");
+        QTRY_COMPARE(count(), QLatin1Char('[') + text + QLatin1Char(']'));
+        QCOMPARE(searchField()->accessibleDescription(), count());
+
+        searchField()->clear();
+        QTRY_COMPARE(count(), QString());
+    }
+
+    QTRY_COMPARE(onlyChanged()->text(), name("Only changed"));
+    QCOMPARE(count(), QString());
 }
 
 void tst_PanelSearch::labelsKeepTheirTexts()

@@ -671,9 +671,9 @@ void tst_PropertyList::problems_data()
         QStringLiteral("warning: /hints/textures: no editor reads this hint for type \"string\""));
     row("fewer values than texts",
         make(kPropertyTypeEnumeration)
-            .setHint(kPropertyHintValues, QVariantList{1})
-            .setHint(kPropertyHintDisplayValues, QStringList{QStringLiteral("x"), QString()}),
-        QStringLiteral("warning: /hints/values: 1 values for 2 \"display_values\""));
+            .setHint(kPropertyHintValues, QVariantList{1, 2})
+            .setHint(kPropertyHintDisplayValues, QStringList{QStringLiteral("x")}),
+        QStringLiteral("warning: /hints/values: 2 values for 1 \"display_values\""));
     row("rule with a mistake",
         make(kPropertyTypeBoolean).setHint(kHostHintVisibleWhen, QStringLiteral("b")),
         QStringLiteral("error: /hints/visible_when: character 1: there is no property \"b\""));

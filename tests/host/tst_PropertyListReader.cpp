@@ -415,9 +415,9 @@ void tst_PropertyListReader::warnings_data()
     row("no maximum", R"({"name": "a", "type": "float", "min": -1})",
         R"(0: "max" is missing and counts as 0)", 1);
     row("fewer values than texts",
-        R"({"name": "a", "type": "int/enum", "hints": {"display_values": ["x", "y"],
-            "values": [1]}})",
-        R"(0/hints/values: 1 values for 2 "display_values")", 1);
+        R"({"name": "a", "type": "int/enum", "hints": {"display_values": ["x", "y", "z"],
+            "values": [1, 2]}})",
+        R"(0/hints/values: 2 values for 3 "display_values")", 1);
 }
 
 void tst_PropertyListReader::warnings()
@@ -530,15 +530,16 @@ void tst_PropertyListReader::everyProblemIsListed()
 
 void tst_PropertyListReader::listedProblemsAreLimited()
 {
-    const QByteArray rows = QByteArray("0,").repeated(10002)
-                            + R"({"name": "a", "type": "nothing like it"}, {"type": "separator"})";
+    const QByteArray rows =
+        QByteArray("0,").repeated(10002) + R"({"name": "a", "type": "nothing like it"},
+                                {"name": "b", "type": "nothing like it"}, {"type": "separator"})";
 
     const auto result = readPropertyList(documentOf(rows));
 
     QCOMPARE(int(result.problems.size()), 10001);
     QCOMPARE(result.problems.at(9999).pointer, QStringLiteral("/properties/9999"));
     QCOMPARE(result.problems.last().toString(QStringLiteral("f")),
-             QStringLiteral("f: error: 2 more errors and 1 more warnings are not listed"));
+             QStringLiteral("f: error: 2 more errors and 2 more warnings are not listed"));
     QCOMPARE(int(result.list.properties().size()), 1);
 }
 

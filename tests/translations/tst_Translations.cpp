@@ -1,12 +1,19 @@
 #include <core/FilenameField.h>
+#include <host/InputFile.h>
 #include <host/NumberExpression.h>
+#include <host/PropertyListReader.h>
+#include <host/PropertyStore.h>
+#include <host/RelativeEdit.h>
 #include <property/PropertyUI.h>
 
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTest>
+#include <QThread>
 #include <QToolButton>
 #include <QTranslator>
+
+#include <memory>
 
 using namespace Tessark;
 
@@ -28,6 +35,11 @@ private Q_SLOTS:
     void plurals_data();
     void plurals();
     void messagesAreTranslatedWithTheirNumbers();
+    void mistakesAreToldInTheLanguage_data();
+    void mistakesAreToldInTheLanguage();
+    void mistakesAreCounted_data();
+    void mistakesAreCounted();
+    void mistakesAreToldInOtherThreads();
 };
 
 namespace {
@@ -45,6 +57,56 @@ QString inProperty()
 QString inHost()
 {
     return QCoreApplication::translate("Tessark::PropertyHost::SelectionMarks", "Several values");
+}
+
+PropertyHost::PropertyListResult readRows(const QByteArray &rows)
+{
+    return PropertyHost::readPropertyList(R"({"version": 1, "properties": [)" + rows + "]}");
+}
+
+/// As they are listed for a file.
+QString told(const QVector<PropertyHost::Problem> &problems)
+{
+    QStringList lines;
+    for (const PropertyHost::Problem &problem : problems)
+        lines.append(problem.toString(QStringLiteral("f")));
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString mistakeInList()
+{
+    return told(readRows(R"({"name": "on", "type": "bool", "default": "yes"})").problems);
+}
+
+QString mistakeInValues()
+{
+    const auto rows = readRows(R"({"name": "n", "type": "int", "min": 0, "max": 5})");
+    PropertyHost::PropertyStore store;
+    return told(store.readValues(R"({"n": 6})", rows.list));
+}
+
+QString mistakeInRule()
+{
+    return told(readRows(R"({"name": "mode", "type": "bool"},
+        {"name": "b", "type": "bool", "hints": {"visible_when": "mdoe"}})")
+                    .problems);
+}
+
+QString mistakeInFile()
+{
+    QVector<PropertyHost::Problem> problems;
+    PropertyHost::readInputFile(QStringLiteral("/"), problems);
+    return told(problems);
+}
+
+QString refusedEdit()
+{
+    const PropertyUI::Property property(QStringLiteral("a"), QString(),
+                                        PropertyUI::kPropertyTypeInteger);
+    QString error;
+    PropertyHost::applyRelativeEdit(property, QStringLiteral("x"),
+                                    {PropertyHost::RelativeOperation::Add, 1}, error);
+    return error;
 }
 
 class HostTranslator final : public QTranslator
@@ -198,6 +260,94 @@ void tst_Translations::messagesAreTranslatedWithTheirNumbers()
     const PropertyHost::NumberExpression expression(QString(501, QLatin1Char('1')));
 
     QCOMPARE(expression.errorText(), QString::fromUtf8("Der Ausdruck ist länger als 500 Zeichen"));
+}
+
+void tst_Translations::mistakesAreToldInTheLanguage_data()
+{
+    QTest::addColumn<QLocale::Language>("language");
+    QTest::addColumn<QString>("told");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, QLocale::Language language, QString (*mistake)(),
+                        const char *text) {
+        QLocale::setDefault(QLocale(language));
+        QTest::newRow(name) << language << mistake() << QString::fromUtf8(text);
+        QLocale::setDefault(QLocale::c());
+    };
+
+    row("list", QLocale::German, mistakeInList,
+        "f: Fehler: /properties/0/default: erwartet: ein boolescher Wert, gefunden: eine "
+        "Zeichenkette");
+    row("value", QLocale::German, mistakeInValues,
+        "f: Warnung: /n: 6 liegt außerhalb des Bereichs");
+    row("rule", QLocale::German, mistakeInRule,
+        "f: Fehler: /properties/1/hints/visible_when: Zeichen 1: es gibt keine Eigenschaft "
+        "\"mdoe\" (meinten Sie \"mode\"?)");
+    row("file", QLocale::German, mistakeInFile,
+        "f: Fehler: kann nicht gelesen werden: Es ist ein Verzeichnis");
+    row("edit", QLocale::German, refusedEdit, "der Wert passt nicht, erwartet: eine ganze Zahl");
+    row("French", QLocale::French, mistakeInList,
+        "f: erreur : /properties/0/default: attendu : un booléen, trouvé : une chaîne");
+    row("Japanese", QLocale::Japanese, mistakeInList,
+        "f: エラー: /properties/0/default: 必要: 真偽値、実際: 文字列");
+    row("Arabic", QLocale::Arabic, mistakeInList,
+        "f: خطأ: /properties/0/default: المتوقع: قيمة منطقية، والموجود: سلسلة نصية");
+    row("English", QLocale::English, mistakeInList,
+        "f: error: /properties/0/default: expected a boolean, found a string");
+}
+
+void tst_Translations::mistakesAreToldInTheLanguage()
+{
+    QFETCH(QString, told);
+    QFETCH(QString, text);
+
+    QCOMPARE(told, text);
+}
+
+void tst_Translations::mistakesAreCounted_data()
+{
+    QTest::addColumn<QLocale::Language>("language");
+    QTest::addColumn<QByteArray>("values");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, QLocale::Language language, const char *values,
+                        const char *text) {
+        QTest::newRow(name) << language << QByteArray(values) << QString::fromUtf8(text);
+    };
+
+    row("English, one", QLocale::English, "1", "1 value for 2 \"display_values\"");
+    row("English, three", QLocale::English, "1, 2, 3", "3 values for 2 \"display_values\"");
+    row("German, one", QLocale::German, "1", "1 Wert für 2 \"display_values\"");
+    row("German, three", QLocale::German, "1, 2, 3", "3 Werte für 2 \"display_values\"");
+    row("Arabic, none", QLocale::Arabic, "", "لا قيم مقابل 2 \"display_values\"");
+    row("Arabic, one", QLocale::Arabic, "1", "قيمة واحدة مقابل 2 \"display_values\"");
+    row("Arabic, three", QLocale::Arabic, "1, 2, 3", "3 قيم مقابل 2 \"display_values\"");
+}
+
+void tst_Translations::mistakesAreCounted()
+{
+    QFETCH(QLocale::Language, language);
+    QFETCH(QByteArray, values);
+    QFETCH(QString, text);
+    QLocale::setDefault(QLocale(language));
+
+    const auto result = readRows(R"({"name": "a", "type": "int/enum", "hints": {"values": [)"
+                                 + values + R"(], "display_values": ["x", "y"]}})");
+
+    QCOMPARE(int(result.problems.size()), 1);
+    QCOMPARE(result.problems.first().message, text);
+}
+
+void tst_Translations::mistakesAreToldInOtherThreads()
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    const QString here = mistakeInRule();
+    QString there;
+
+    const std::unique_ptr<QThread> thread(QThread::create([&there] { there = mistakeInRule(); }));
+    thread->start();
+    QVERIFY(thread->wait());
+
+    QVERIFY(here.contains(QStringLiteral("es gibt keine Eigenschaft")));
+    QCOMPARE(there, here);
 }
 
 QTEST_MAIN(tst_Translations)

@@ -2,6 +2,7 @@
 
 #include "SettingsFile.h"
 #include "StandardStreams.h"
+#include "Texts.h"
 #include "TextureChoices.h"
 
 #include <core/KitColors.h>
@@ -305,7 +306,7 @@ void PanelWindow::refresh()
 void PanelWindow::showProblems(const QStringList &problems)
 {
     for (const QString &problem : problems)
-        printError(QStringLiteral("property-panel: error: ") + problem);
+        printError(Texts::tr("property-panel: error: %1").arg(problem));
     m_error->setText(problems.join(QLatin1Char('\n')));
     m_error->setVisible(!problems.isEmpty());
 }
@@ -386,7 +387,7 @@ void PanelWindow::finish(ExitStatus status)
     if (status == ExitStatus::Cancelled && !m_settingsPath.isEmpty()) {
         const QString error = replaceArrangement(m_settingsPath, m_list, m_view->saveState());
         if (!error.isEmpty())
-            printError(QStringLiteral("property-panel: warning: ") + error);
+            printError(Texts::tr("property-panel: warning: %1").arg(error));
     }
     hide();
     Q_EMIT finished(status);

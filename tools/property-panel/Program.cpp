@@ -16,7 +16,7 @@ namespace {
 
 void printProblem(const QString &text)
 {
-    printError(QStringLiteral("property-panel: error: ") + text);
+    printError(Texts::tr("property-panel: error: %1").arg(text));
 }
 
 ExitStatus check(const Input &input)

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 
 namespace Tessark::PropertyHost {
 
@@ -27,16 +28,32 @@ void add(Fields &fields, int type, const ObjectField &field)
     fields.insert(type, std::make_shared<const ObjectField>(field));
 }
 
+/// Whether a row holds the very variant of the property, which need not be made anew for each look.
+template <typename Value>
+constexpr bool kIsRowVariant =
+    std::is_base_of_v<
+        PlainStructField<Value>,
+        StructField<Value>> || std::is_same_v<Value, int> || std::is_same_v<Value, double>;
+
+template <typename Value>
+ObjectField fieldOfType()
+{
+    ObjectField field = makeObjectField<Value>();
+    if (kIsRowVariant<Value>)
+        field.toRow = nullptr;
+    return field;
+}
+
 template <typename Value>
 void addPlain(Fields &fields)
 {
-    add(fields, qMetaTypeId<Value>(), makeObjectField<Value>());
+    add(fields, qMetaTypeId<Value>(), fieldOfType<Value>());
 }
 
 template <typename Value>
 void addRanged(Fields &fields, const QVariant &minimum, const QVariant &maximum)
 {
-    ObjectField field = makeObjectField<Value>();
+    ObjectField field = fieldOfType<Value>();
     field.prepare = [minimum, maximum](PropertyRow row) { row.range(minimum, maximum); };
     add(fields, qMetaTypeId<Value>(), field);
 }
@@ -128,6 +145,16 @@ QString textOf(const QVariant &value)
 
 } // namespace
 
+QVariant toRow(const ObjectField &field, const QVariant &value)
+{
+    return field.toRow ? field.toRow(value) : value;
+}
+
+QVariant fromRow(const ObjectField &field, const QVariant &value)
+{
+    return field.fromRow ? field.fromRow(value) : value;
+}
+
 SharedField fieldOf(const QMetaProperty &property)
 {
     static const Fields s_fields = makeFields();
@@ -144,8 +171,8 @@ ObjectField toStaticText(const ObjectField &field, const QMetaProperty &property
         };
         return {kPropertyTypeStaticText, keyOf, field.fromRow, {}};
     }
-    const auto text = [toRow = field.toRow](const QVariant &value) {
-        return QVariant(textOf(toRow(value)));
+    const auto text = [field](const QVariant &value) {
+        return QVariant(textOf(toRow(field, value)));
     };
     return {kPropertyTypeStaticText, text, field.fromRow, {}};
 }

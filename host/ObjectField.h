@@ -11,7 +11,7 @@
 namespace Tessark::PropertyHost {
 
 /// How a row shows and edits a meta-property: the type of the row and the ways from the property's
-/// variant to that of the row's editor and back.
+/// variant to that of the row's editor and back. A way that is empty hands the variant on as it is.
 struct ObjectField
 {
     QString type;

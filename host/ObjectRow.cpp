@@ -64,12 +64,12 @@ bool ObjectRow::isResettable() const
 
 QVariant ObjectRow::value() const
 {
-    return m_target.has(m_meta) ? m_field->toRow(m_target.read(m_meta)) : QVariant();
+    return m_target.has(m_meta) ? toRow(*m_field, m_target.read(m_meta)) : QVariant();
 }
 
 bool ObjectRow::write(const QVariant &edited)
 {
-    const QVariant value = isWritable() ? m_field->fromRow(edited) : QVariant();
+    const QVariant value = isWritable() ? fromRow(*m_field, edited) : QVariant();
     return change([&value](const ObjectTarget &target, const QMetaProperty &meta) {
         target.write(meta, value);
     });
@@ -88,12 +88,12 @@ bool ObjectRow::reset()
 void ObjectRow::show()
 {
     if (m_views.size() == 1) {
-        showIn(View(m_views.front()));
+        showIn(m_views.front());
         return;
     }
     const QPointer<ObjectRow> self(this);
     for (int i = 0; self && i < m_views.size(); ++i)
-        showIn(View(m_views[i]));
+        showIn(m_views[i]);
 }
 
 void ObjectRow::connectNotification()
@@ -171,16 +171,17 @@ bool ObjectRow::change(Change makeChange)
 void ObjectRow::showIn(const View &view)
 {
     PropertyEditorPanel *const panel = view.panel();
-    if (!panel || !view.editor)
+    const QPointer<PropertyEditor> editor = panel ? view.editor : nullptr;
+    if (!editor)
         return;
     if (view.isInRun) {
-        showUnlessShown(view);
+        showUnlessShown(View(view));
         return;
     }
     m_shown->row = this;
     const QVariant current = panel->value(m_property);
-    if (view.editor)
-        view.editor->setValue(current);
+    if (editor)
+        editor->setValue(current);
 }
 
 /// Shows what the object made of an edit, which the editor of the edit shows already unless the
@@ -221,7 +222,7 @@ void ObjectRow::showUnlessShown(const View &view)
 /// The value of an editor as it comes back from the property, in single precision for instance.
 QVariant ObjectRow::asKept(const QVariant &value) const
 {
-    return m_isReadOnly ? value : m_field->toRow(m_field->fromRow(value));
+    return m_isReadOnly ? value : toRow(*m_field, fromRow(*m_field, value));
 }
 
 void ObjectRow::disable(const View &view)

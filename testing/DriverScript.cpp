@@ -30,7 +30,7 @@ QString whenDone(PanelDriver &driver, ScriptLine &line, Act act)
     return act() ? QString() : driver.error();
 }
 
-QString dragWheel(PanelDriver &driver, ScriptLine &line)
+QString wheelDragLine(PanelDriver &driver, ScriptLine &line)
 {
     line.takeOneOf(words("of"));
     const QString row = line.take(kRow);
@@ -43,7 +43,7 @@ QString dragWheel(PanelDriver &driver, ScriptLine &line)
     });
 }
 
-QString dragRing(PanelDriver &driver, ScriptLine &line)
+QString ringDragLine(PanelDriver &driver, ScriptLine &line)
 {
     line.takeOneOf(words("of"));
     const QString row = line.take(kRow);
@@ -58,9 +58,9 @@ QString drag(PanelDriver &driver, ScriptLine &line)
 {
     if (line.isFollowedBy(words("of"))) { // a row may be called so
         if (line.skip(QStringLiteral("wheel")))
-            return dragWheel(driver, line);
+            return wheelDragLine(driver, line);
         if (line.skip(QStringLiteral("ring")))
-            return dragRing(driver, line);
+            return ringDragLine(driver, line);
     }
     const QString row = line.take(kRow);
     const bool isNear = line.takeOneOf(words("to near")) == QLatin1String("near");

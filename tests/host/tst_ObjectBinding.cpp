@@ -514,6 +514,7 @@ private Q_SLOTS:
     void widgetsOwnPropertiesCanBeLeftOut();
     void undesignablePropertiesAreLeftOut();
     void typesOfTheHost();
+    void emptyWaysHandVariantsOn();
     void prefixesTellObjectsApart();
     void doubledNamesAreTold();
 
@@ -971,6 +972,25 @@ void tst_ObjectBinding::typesOfTheHost()
     QCOMPARE(binding.delegate()->value(row), QVariant(-6.0));
     binding.delegate()->setValue(row, -12.5, kNew);
     QCOMPARE(object.loudness.number, -12.5);
+}
+
+void tst_ObjectBinding::emptyWaysHandVariantsOn()
+{
+    Amplifier amplifier;
+    ObjectBinding binding;
+    ObjectBindingOptions options;
+    options.fieldOf = [](const QMetaProperty &property) -> std::optional<ObjectField> {
+        if (property.userType() != QMetaType::Double)
+            return std::nullopt;
+        return ObjectField{kPropertyTypeFloat, {}, {}, {}};
+    };
+    binding.add(&amplifier, options);
+    Property *const row = binding.find(text("gain"));
+
+    QCOMPARE(binding.delegate()->value(row), QVariant(1.0));
+    binding.delegate()->setValue(row, 4.5, kNew);
+    QCOMPARE(amplifier.gain(), 4.5);
+    QCOMPARE(binding.delegate()->value(row), QVariant(4.5));
 }
 
 void tst_ObjectBinding::prefixesTellObjectsApart()

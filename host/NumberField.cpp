@@ -143,9 +143,11 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
+        // Other events come while the field is being destroyed, and but a widget.
+        if (event->type() != QEvent::MouseButtonPress)
+            return false;
         const QWidget *const spinBox = m_field.m_field.spinBox;
-        if (event->type() != QEvent::MouseButtonPress || !spinBox
-            || watched != spinBox->window()->windowHandle())
+        if (!spinBox || watched != spinBox->window()->windowHandle())
             return false;
         const QPoint position = static_cast<const QMouseEvent *>(event)->pos();
         const QPointer<QObject> watchedAlive(watched);

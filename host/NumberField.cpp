@@ -176,7 +176,10 @@ NumberField::NumberField(const PanelField &field, const NumberNames &names, QObj
     // The field follows the text between these two.
     connect(m_lineEdit, &QLineEdit::textEdited, this, [this] { m_isEdited = true; });
     connect(m_lineEdit, &QLineEdit::textChanged, this, &NumberField::textChanged);
-    connect(field.spinBox, &QObject::destroyed, this, &NumberField::end);
+    connect(field.spinBox, &QObject::destroyed, this, [this] {
+        m_field.spinBox.clear(); // it is but a widget now
+        end();
+    });
     if (const auto *const integer = qobject_cast<QSpinBox *>(field.spinBox))
         connect(integer, qOverload<int>(&QSpinBox::valueChanged), this,
                 &NumberField::numberChanged);

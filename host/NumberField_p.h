@@ -70,7 +70,7 @@ private:
     void showPreview(const QString &text);
     void hidePreview();
 
-    const PanelField m_field;
+    PanelField m_field;
     const NumberNames &m_names;
     QPointer<QLineEdit> m_lineEdit;
     std::unique_ptr<PressWatch> m_presses; // watches while the text is an expression

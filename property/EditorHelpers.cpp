@@ -1,6 +1,7 @@
 #include "property/EditorHelpers_p.h"
 
 #include "core/DisclosureButton.h"
+#include "property/ControlRow_p.h"
 #include "property/PropertyEditor.h"
 #include "property/SpokenNumber_p.h"
 
@@ -8,7 +9,6 @@
 #include <QAbstractSlider>
 #include <QButtonGroup>
 #include <QDoubleSpinBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -196,8 +196,7 @@ int hundredthOf(int minimum, int maximum)
 QWidget *makeRow(std::initializer_list<QWidget *> controls)
 {
     auto *const row = new QWidget;
-    auto *const layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *const layout = new ControlRow(row);
     for (QWidget *control : controls)
         layout->addWidget(control);
     return row;

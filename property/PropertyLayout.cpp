@@ -1,5 +1,7 @@
 #include "property/PropertyLayout.h"
 
+#include "property/ControlRow_p.h"
+
 #include <QChildEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -107,12 +109,20 @@ bool isOfClass(const QLayoutItem &item)
     return typeid(item) == typeid(Item);
 }
 
+/// Whether the widget always tells of a change of its size hints: labels and line edits of Qt do, and so
+/// does a row of controls.
+bool tellsOfItsHints(const QWidget &widget)
+{
+    const std::type_info &type = typeid(widget);
+    return type == typeid(QLabel) || type == typeid(QLineEdit)
+           || (type == typeid(QWidget) && dynamic_cast<const ControlRow *>(widget.layout()));
+}
+
 /// An item that asks widget for its size hints with each pass, for a widget may change them without a
-/// word. Labels and line edits of Qt always tell; the items of these keep the hints until then.
+/// word. The items of those that tell keep the hints until then.
 QWidgetItem *makeRowItem(QWidget *widget)
 {
-    const std::type_info &type = typeid(*widget);
-    if (type == typeid(QLabel) || type == typeid(QLineEdit))
+    if (tellsOfItsHints(*widget))
         return new QWidgetItemV2(widget);
     return new RowItem(widget);
 }

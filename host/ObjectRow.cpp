@@ -170,14 +170,14 @@ bool ObjectRow::change(Change makeChange)
 /// The row may be gone afterwards, and its views changed.
 void ObjectRow::showIn(const View &view)
 {
-    PropertyEditorPanel *const panel = view.panel();
-    const QPointer<PropertyEditor> editor = panel ? view.editor : nullptr;
-    if (!editor)
-        return;
     if (view.isInRun) {
         showUnlessShown(View(view));
         return;
     }
+    PropertyEditorPanel *const panel = view.panel();
+    const QPointer<PropertyEditor> editor = view.editor;
+    if (!panel || !editor)
+        return;
     m_shown->row = this;
     const QVariant current = panel->value(m_property);
     if (editor)

@@ -45,6 +45,7 @@ void ControlRow::setGeometry(const QRect &rect)
     const QRect before = geometry();
     if (rect == before)
         return;
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): that of the parent would weigh and place them
     QLayout::setGeometry(rect);
     place(rect, rect.right() > before.right());
 }

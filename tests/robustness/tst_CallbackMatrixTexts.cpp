@@ -82,7 +82,7 @@ QString nextDirectory()
 /// control is back in the event loop, and all the time would be waited for nothing.
 void waitForEndOf(const QPointer<QFileDialog> &dialog)
 {
-    const QDeadlineTimer end(1000); // so late that it never ends
+    const QDeadlineTimer end(10000); // so late that it never ends
     while (dialog && !end.hasExpired()) {
         QCoreApplication::processEvents();
         if (dialog && dialog->isHidden())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -21,7 +22,16 @@ inline QAbstractButton *acceptButtonOf(const QFileDialog *dialog)
 inline void acceptByTyping(QFileDialog *dialog, const QString &name)
 {
     auto *const entry = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-    entry->selectAll();
-    QTest::keyClicks(entry, name);
-    QTest::mouseClick(acceptButtonOf(dialog), Qt::LeftButton);
+    QAbstractButton *const accept = acceptButtonOf(dialog);
+    // Its list, which comes when the disk has told the names, would take the click to close itself.
+    entry->setCompleter(nullptr);
+    const QDeadlineTimer end(10000);
+    do {
+        entry->selectAll();
+        QTest::keyClicks(entry, name);
+        // Another thread tells the dialog which names there are, and it looks only at what is typed.
+        if (!accept->isEnabled())
+            QTest::qWait(20);
+    } while (!accept->isEnabled() && !end.hasExpired());
+    QTest::mouseClick(accept, Qt::LeftButton);
 }

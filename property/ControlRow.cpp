@@ -7,9 +7,9 @@ namespace Tessark::PropertyUI {
 namespace {
 
 /// A widget without any wish but its size hint and its policy.
-bool isPlainItem(const QLayoutItem &item)
+bool isPlainItem(QLayoutItem &item)
 {
-    const QWidget *const widget = const_cast<QLayoutItem &>(item).widget();
+    const QWidget *const widget = item.widget();
     return widget && !item.isEmpty() && !item.hasHeightForWidth()
            && widget->sizePolicy().horizontalStretch() == 0;
 }
@@ -59,7 +59,7 @@ ControlRow::Sharing ControlRow::findSharing() const
     sharing.spacing = spacing();
     sharing.fixedWidth = sharing.spacing * (count() - 1);
     for (int i = 0; i < count(); ++i) {
-        const QLayoutItem &item = *itemAt(i);
+        QLayoutItem &item = *itemAt(i);
         const bool grows = item.expandingDirections() & Qt::Horizontal;
         if (!isPlainItem(item) || stretch(i) != 0 || (grows && growing >= 0))
             return sharing;

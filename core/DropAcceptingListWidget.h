@@ -37,8 +37,9 @@ public:
 
 Q_SIGNALS:
     /// One drop: the local paths of its URLs in their order, duplicates kept, at least one. They
-    /// are not looked up; URLs that are not local are left out. A slot may delete the list, but is
-    /// not to open a dialog at once, since some sources wait for the end of the drop.
+    /// are not looked up; URLs that are not local are left out. A slot may delete the list, but with
+    /// Qt 5 not the window it is in, to which Qt writes after a drop: there, use deleteLater(). Nor
+    /// is a slot to open a dialog at once, since some sources wait for the end of the drop.
     void droppedUrls(const QStringList &paths);
 
 protected:

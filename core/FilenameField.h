@@ -19,7 +19,8 @@ namespace Tessark::UI {
  * comes once for each committed change by the user, after the new name is in place, and never for
  * setFilename(). Whether a name exists is not checked; the file system is looked at only for
  * completions, drops and the dialog. A slot may delete the field, but not a widget outside that a
- * click has just given the focus to: Qt is not done with it.
+ * click has just given the focus to, nor with Qt 5 the window in which a drop ended: Qt is not done
+ * with it.
  *
  * Parts for style sheets: #filenameEdit, a QLineEdit, and #browseButton, a QToolButton. The line
  * edit takes over the field's accessible name when it is shown or gets the focus. Its tool tip is

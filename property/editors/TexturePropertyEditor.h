@@ -52,7 +52,8 @@ public:
     void setAcceptUrlsDrops(bool accept);
 
 Q_SIGNALS:
-    /// The local paths of one drop, in order.
+    /// The local paths of one drop, in order. A slot may delete editor and panel, but with Qt 5 not
+    /// the window they are in: there, use deleteLater().
     void droppedUrls(QStringList paths);
 
 private Q_SLOTS:

@@ -10,6 +10,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <QVBoxLayout>
+#include <QWidget>
 #include <QWindow>
 
 #include <memory>
@@ -121,6 +123,7 @@ private Q_SLOTS:
     void leavingTakesNothing();
     void flagMayChangeDuringTheDrag();
     void slotMayDeleteThePanel();
+    void slotMayDeleteTheWindow();
 
 private:
     bool startDrag(const QList<QUrl> &urls);
@@ -136,6 +139,7 @@ private:
     Property m_property{QStringLiteral("texture"), QStringLiteral("Texture"), kPropertyTypeTexture};
     NoDelegate m_delegate;
     DragMoveCounter m_moves;
+    QPointer<QWidget> m_window; // with the panel in it
     QPointer<PropertyEditorPanel> m_panel;
     QPointer<TexturePropertyEditor> m_editor;
     QPointer<DropAcceptingListWidget> m_list;
@@ -151,7 +155,10 @@ void tst_TextureFileDrag::initTestCase()
 
 void tst_TextureFileDrag::init()
 {
+    m_window = new QWidget;
     m_panel = new PropertyEditorPanel({&m_property}, &m_delegate, nullptr);
+    auto *const layout = new QVBoxLayout(m_window);
+    layout->addWidget(m_panel);
     m_editor = m_panel->findChild<TexturePropertyEditor *>();
     m_list = m_panel->findChild<DropAcceptingListWidget *>();
     QVERIFY(m_editor && m_list);
@@ -159,11 +166,11 @@ void tst_TextureFileDrag::init()
     m_editor->setAcceptUrlsDrops(true);
     m_dropped = std::make_unique<QSignalSpy>(m_editor, &TexturePropertyEditor::droppedUrls);
 
-    m_panel->setGeometry(400, 100, 400, 300);
-    m_panel->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_panel));
+    m_window->setGeometry(400, 100, 400, 300);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
     m_moves.count = 0;
-    m_panel->windowHandle()->installEventFilter(&m_moves);
+    m_window->windowHandle()->installEventFilter(&m_moves);
 }
 
 void tst_TextureFileDrag::cleanup()
@@ -171,7 +178,7 @@ void tst_TextureFileDrag::cleanup()
     m_pointer.release();
     m_source.reset();
     m_dropped.reset();
-    delete m_panel;
+    delete m_window;
 }
 
 /// Starts the other program and takes the URLs up there.
@@ -352,6 +359,25 @@ void tst_TextureFileDrag::slotMayDeleteThePanel()
     m_pointer.release();
 
     QTRY_VERIFY_WITH_TIMEOUT(!m_panel, kTimeout);
+    QCOMPARE(m_dropped->count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_source->answer("finished"), QByteArray("copy"), kTimeout);
+}
+
+void tst_TextureFileDrag::slotMayDeleteTheWindow()
+{
+    // Qt 5 itself writes to the window after a drop, so there the deletion has to wait for its end.
+    connect(m_editor, &TexturePropertyEditor::droppedUrls, this, [this] {
+        if (QT_VERSION < QT_VERSION_CHECK(6, 0, 0))
+            m_window->deleteLater();
+        else
+            delete m_window;
+    });
+
+    QVERIFY2(startDrag({QUrl(QStringLiteral("file:///a"))}), qPrintable(report()));
+    QVERIFY2(hoverOverList(), qPrintable(report()));
+    m_pointer.release();
+
+    QTRY_VERIFY_WITH_TIMEOUT(!m_window, kTimeout);
     QCOMPARE(m_dropped->count(), 1);
     QTRY_COMPARE_WITH_TIMEOUT(m_source->answer("finished"), QByteArray("copy"), kTimeout);
 }

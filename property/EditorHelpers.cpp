@@ -193,13 +193,17 @@ int hundredthOf(int minimum, int maximum)
     return static_cast<int>((qint64(maximum) - minimum) / 100);
 }
 
-QWidget *makeRow(std::initializer_list<QWidget *> controls)
+QWidget *makeRow()
 {
     auto *const row = new QWidget;
-    auto *const layout = new ControlRow(row);
-    for (QWidget *control : controls)
-        layout->addWidget(control);
+    new ControlRow(row);
     return row;
+}
+
+void fillRow(QWidget *row, std::initializer_list<QWidget *> controls)
+{
+    for (QWidget *control : controls)
+        row->layout()->addWidget(control);
 }
 
 void visitBefore(QWidget *control, QWidget *next)

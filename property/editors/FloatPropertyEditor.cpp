@@ -69,6 +69,7 @@ QVariant FloatPropertyEditor::value() const
 QWidget *FloatPropertyEditor::widget(PropertyEditorContext *)
 {
     if (buildsNow()) {
+        QWidget *const row = makeRow();
         const QVariant scale = m_property->hint(kPropertyHintDisplayScale);
         if (!scale.isNull())
             m_displayScale = scale.toDouble();
@@ -79,7 +80,8 @@ QWidget *FloatPropertyEditor::widget(PropertyEditorContext *)
         connect(m_slider, &QAbstractSlider::valueChanged, this,
                 &FloatPropertyEditor::sliderChanged);
         m_spinBox = makeSpinBox();
-        m_widget = makeRow({m_slider, m_spinBox});
+        fillRow(row, {m_slider, m_spinBox});
+        m_widget = row;
     }
     return m_widget;
 }

@@ -35,6 +35,7 @@ QVariant IntegerPropertyEditor::value() const
 QWidget *IntegerPropertyEditor::widget(PropertyEditorContext *)
 {
     if (buildsNow()) {
+        QWidget *const row = makeRow();
         m_slider = new QSlider(Qt::Horizontal);
         m_spinBox = new QSpinBox;
         propertyChanged();
@@ -43,7 +44,8 @@ QWidget *IntegerPropertyEditor::widget(PropertyEditorContext *)
         connect(m_slider, &QSlider::valueChanged, this, &IntegerPropertyEditor::sliderChanged);
         connect(m_spinBox, qOverload<int>(&QSpinBox::valueChanged), this,
                 &IntegerPropertyEditor::spinBoxChanged);
-        m_widget = makeRow({m_slider, m_spinBox});
+        fillRow(row, {m_slider, m_spinBox});
+        m_widget = row;
     }
     return m_widget;
 }

@@ -56,9 +56,11 @@ QVariant PercentPropertyEditor::value() const
 QWidget *PercentPropertyEditor::widget(PropertyEditorContext *)
 {
     if (buildsNow()) {
+        QWidget *const row = makeRow();
         makeSlider();
         makeSpinBox();
-        m_widget = makeRow({m_slider, m_spinBox});
+        fillRow(row, {m_slider, m_spinBox});
+        m_widget = row;
     }
     return m_widget;
 }

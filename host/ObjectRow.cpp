@@ -17,6 +17,23 @@ namespace Tessark::PropertyHost {
 
 using namespace PropertyUI;
 
+namespace {
+
+/// Has an editor fetched that is needed soon, while its object is asked for the value: among very
+/// many rows it is in no cache, and to wait for it was a twelfth of what a notification takes.
+void prefetch(const void *editor)
+{
+#if defined(__GNUC__)
+    constexpr int kCacheLine = 64; // bytes; an editor has some two of them
+    __builtin_prefetch(editor);
+    __builtin_prefetch(static_cast<const char *>(editor) + kCacheLine);
+#else
+    Q_UNUSED(editor)
+#endif
+}
+
+} // namespace
+
 bool ObjectTarget::has(const QMetaProperty &property) const
 {
     return gadget || (object && object->metaObject()->inherits(property.enclosingMetaObject()));
@@ -109,7 +126,7 @@ void ObjectRow::addEditor(PropertyEditorPanel *panel, PropertyEditor *editor)
         std::remove_if(m_views.begin(), m_views.end(),
                        [](const View &view) { return !view.panelObject || !view.editor; }),
         m_views.end());
-    m_views.push_back({panel, editor, false});
+    m_views.push_back({panel, editor, editor, false});
     connect(editor, &PropertyEditor::startInteractiveChange, this,
             [this, editor] { setInRun(editor, true); });
     connect(editor, &PropertyEditor::endInteractiveChange, this,
@@ -143,6 +160,8 @@ void ObjectRow::release()
 
 void ObjectRow::notified()
 {
+    for (const View &view : std::as_const(m_views))
+        prefetch(view.editorMemory);
     if (!m_isWriting && m_target.has(m_meta))
         show();
 }

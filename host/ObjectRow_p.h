@@ -90,6 +90,7 @@ private:
     {
         QPointer<QObject> panelObject;
         QPointer<PropertyUI::PropertyEditor> editor;
+        const void *editorMemory = nullptr; // only to be fetched: the editor may be gone
         bool isInRun = false;
 
         /// Null also when only the widget is left of a panel that is being destroyed.

@@ -923,7 +923,7 @@ void tst_SelectionDelegate::undoPassesOverObjectsThatAreGone()
     m_objects.erase(m_objects.begin());
 
     m_stack->undo();
-    QCOMPARE(values(), QVector<QVariant>({2.0}));
+    QCOMPARE(values(), QVector<QVariant>{QVariant(2.0)});
     m_objects.clear();
     m_stack->redo();
 }

@@ -119,6 +119,7 @@ void tst_PercentPropertyEditor::rangesInSinglePrecision()
     QCOMPARE(subject.slider->minimum(), int(0.29F * 100000.0F));
     QCOMPARE(subject.slider->minimum(), 29000);
     QCOMPARE(subject.slider->maximum(), int(0.58F * 100000.0F));
+    QCOMPARE(subject.spinBox->singleStep(), 0.29); // a hundredth of 29 to 58 per cent
 }
 
 void tst_PercentPropertyEditor::sliderSteps_data()

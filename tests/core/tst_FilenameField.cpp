@@ -393,6 +393,9 @@ void tst_FilenameField::toolTipIsTheTextWhenCutOff_data()
     QTest::newRow("markup is shown as it stands")
         << folders + QStringLiteral("/<b>x</b>")
         << wrapped.arg(folders + QStringLiteral("/&lt;b&gt;x&lt;/b&gt;"));
+    QTest::newRow("the longest is whole") << half + half << wrapped.arg(half + half);
+    QTest::newRow("a longer one loses its middle")
+        << half + QLatin1Char('b') + half << wrapped.arg(half + QChar(0x2026) + half);
     QTest::newRow("a giant loses its middle")
         << lengthyText() << wrapped.arg(half + QChar(0x2026) + half);
 }

@@ -128,6 +128,8 @@ private Q_SLOTS:
     void aHostsDescriptionStays();
     void aHostsNameForAPathStays();
     void labelsAreFollowed();
+    void labelsAreSpokenAsShown_data();
+    void labelsAreSpokenAsShown();
     void foldsAreFollowed();
     void boundsAreFollowed();
     void languagesAreFollowed();
@@ -452,6 +454,37 @@ void tst_Accessibility::labelsAreFollowed()
 
     m_rows->control<QTabWidget>(QStringLiteral("views"))->setTabText(0, QStringLiteral("&Arrows"));
     QTRY_COMPARE(descriptionOf(position), QStringLiteral("-5 to 5, Arrows"));
+}
+
+void tst_Accessibility::labelsAreSpokenAsShown_data()
+{
+    QTest::addColumn<Qt::TextFormat>("format");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("as it stands") << Qt::PlainText << QStringLiteral("<b>bold</b>:")
+                                  << QStringLiteral("<b>bold</b>");
+    QTest::newRow("HTML") << Qt::RichText << QStringLiteral("<b>bold</b> title:")
+                          << QStringLiteral("bold title");
+    QTest::newRow("Markdown") << Qt::MarkdownText << QStringLiteral("**bold** title:")
+                              << QStringLiteral("bold title");
+    QTest::newRow("found out") << Qt::AutoText << QStringLiteral("<b>bold</b> title:")
+                               << QStringLiteral("bold title");
+}
+
+void tst_Accessibility::labelsAreSpokenAsShown()
+{
+    QFETCH(const Qt::TextFormat, format);
+    QFETCH(const QString, text);
+    QFETCH(const QString, name);
+    m_rows->window()->show();
+    listen();
+    QLabel *const label = labelOf(*m_rows, QStringLiteral("title"));
+
+    label->setTextFormat(format);
+    label->setText(text);
+
+    QTRY_COMPARE(nameOf(m_rows->control<QLineEdit>(QStringLiteral("title"))), name);
 }
 
 void tst_Accessibility::foldsAreFollowed()

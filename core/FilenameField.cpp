@@ -233,6 +233,15 @@ void FilenameField::openDialog()
     // Queued: the dialog goes on with itself after the signal, while a slot may delete the field.
     connect(dialog, &QFileDialog::fileSelected, this, &FilenameField::dialogAccepted,
             Qt::QueuedConnection);
+    // Qt 5 takes what is found while "/a/12" is typed, "/a/1", for chosen as well, and then tells of
+    // no single one. The last is what was typed.
+    connect(
+        dialog, &QFileDialog::filesSelected, this,
+        [this](const QStringList &names) {
+            if (names.size() > 1)
+                dialogAccepted(names.constLast());
+        },
+        Qt::QueuedConnection);
     m_state->dialog = dialog;
     // The dialog takes the focus away from half-typed text, which it is not to commit.
     m_state->edit->holdWhile(dialog);

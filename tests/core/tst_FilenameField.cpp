@@ -217,6 +217,7 @@ private Q_SLOTS:
     void cancelKeepsHalfTypedText();
     void dialogDeletedByTheHostKeepsNoHold();
     void choiceByTyping();
+    void lastOfSeveralNamesIsTheChoice();
     void choiceByClickingTheList();
     void choosingTheShownNameFiresNothing();
     void choiceReplacesHalfTypedText();
@@ -1212,6 +1213,23 @@ void tst_FilenameField::choiceByTyping()
     form.field->setFocus();
     form.other->setFocus();
     QCOMPARE(names.size(), 1);
+}
+
+/// Qt 5 tells of "/a/1" and "/a/12" when "/a/12" is typed in a folder that its dialog knows.
+void tst_FilenameField::lastOfSeveralNamesIsTheChoice()
+{
+    Form form(QFileDialog::Directory);
+    QVERIFY(showFocused(form));
+    QSignalSpy spy(form.field, &FilenameField::filenameSet);
+    const QPointer<QFileDialog> dialog = openDialogByClick(form.field);
+    QVERIFY(dialog);
+
+    Q_EMIT dialog->filesSelected({m_tree.path("alpha"), m_tree.path("beta")});
+    dialog->close();
+
+    QTRY_COMPARE(form.field->filename(), m_tree.path("beta"));
+    QTRY_VERIFY(!dialog);
+    QCOMPARE(spy.count(), 1);
 }
 
 void tst_FilenameField::choiceByClickingTheList()

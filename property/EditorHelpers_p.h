@@ -100,7 +100,7 @@ double finite(double number);
 int hundredthOf(int minimum, int maximum);
 
 /// A parentless row without margins, for fillRow(). Make it before its controls: with each paint of a
-/// widget Qt looks at all its siblings, the fields and labels of the panel, and that takes a fifth
+/// widget Qt looks at all its siblings, the fields and labels of the panel, and that takes a sixth
 /// less time where they lie close together in memory and not between their controls.
 QWidget *makeRow();
 
